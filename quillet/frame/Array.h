@@ -1,0 +1,116 @@
+// quillet/frame/Array.h - the one-dimensional arrays of the interface
+// (String(), Byte(), Long(), Boolean(), Variant()): any lower and upper bound,
+// or unallocated, copied on assignment.
+//
+//   Array<String> names;                 // unallocated
+//   names.isAllocated();                 // false
+//   names.lbound();                      // throws Failure(errSubscript)
+//   names.redim(-5, -4);                 // two empty texts, subscripts -5 and -4
+//   names[-5] = u"a";
+//   names.redimPreserve(-5, -3);         // keeps "a" and "", adds one ""
+//   names[0];                            // throws Failure(errSubscript)
+//   Array<Byte> none(0, -1);             // allocated with no element: ubound < lbound
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <vector>
+
+#include "quillet/frame/Failure.h"
+#include "quillet/frame/checked.h"
+#include "quillet/frame/types.h"
+
+namespace quillet {
+
+template <class T>
+class Array {
+public:
+    using value_type = T;
+
+    // construction
+    Array() = default;                     // unallocated
+    Array(Long lower, Long upper) { redim(lower, upper); }
+    // An allocated array with the given elements from subscript `lower`.
+    static Array from(Long lower, std::initializer_list<T> items) {
+        Array a;
+        a.allocated_ = true;
+        a.lower_ = lower;
+        a.items_.assign(items.begin(), items.end());
+        return a;
+    }
+    static Array from(Long lower, std::vector<T> items) {
+        Array a;
+        a.allocated_ = true;
+        a.lower_ = lower;
+        a.items_ = std::move(items);
+        return a;
+    }
+
+    // redim - new bounds, every element reset to its zero value. An upper
+    // bound below lower - 1 fails with errSubscript and changes nothing.
+    void redim(Long lower, Long upper) {
+        const std::size_t n = count(lower, upper);
+        items_.assign(n, T{});
+        lower_ = lower;
+        allocated_ = true;
+    }
+    // redimPreserve - new bounds, keeping the elements in order from the first:
+    // the element that was first is first again, whatever the new lower bound.
+    void redimPreserve(Long lower, Long upper) {
+        const std::size_t n = count(lower, upper);
+        items_.resize(n);
+        lower_ = lower;
+        allocated_ = true;
+    }
+    // erase - back to unallocated.
+    void erase() noexcept {
+        items_.clear();
+        lower_ = 0;
+        allocated_ = false;
+    }
+
+    // queries
+    [[nodiscard]] bool isAllocated() const noexcept { return allocated_; }
+    // lbound, ubound - the bounds; on an unallocated array errSubscript.
+    [[nodiscard]] Long lbound() const {
+        if (!allocated_) throw Failure(errSubscript);
+        return lower_;
+    }
+    [[nodiscard]] Long ubound() const {
+        if (!allocated_) throw Failure(errSubscript);
+        return static_cast<Long>(lower_ + static_cast<long long>(items_.size()) - 1);
+    }
+    // size - number of elements; 0 when unallocated. Never fails.
+    [[nodiscard]] std::size_t size() const noexcept { return items_.size(); }
+
+    // element access - outside the bounds, or unallocated, errSubscript.
+    [[nodiscard]] T& operator[](Long subscript) { return items_[offset(subscript)]; }
+    [[nodiscard]] const T& operator[](Long subscript) const { return items_[offset(subscript)]; }
+
+    // The elements in subscript order, for range-for and algorithms.
+    [[nodiscard]] const std::vector<T>& elements() const noexcept { return items_; }
+    [[nodiscard]] auto begin() noexcept { return items_.begin(); }
+    [[nodiscard]] auto end() noexcept { return items_.end(); }
+    [[nodiscard]] auto begin() const noexcept { return items_.begin(); }
+    [[nodiscard]] auto end() const noexcept { return items_.end(); }
+
+    friend bool operator==(const Array&, const Array&) = default;
+
+private:
+    static std::size_t count(Long lower, Long upper) {
+        const long long n = static_cast<long long>(upper) - lower + 1;
+        if (n < 0) throw Failure(errSubscript);
+        return static_cast<std::size_t>(n);
+    }
+    [[nodiscard]] std::size_t offset(Long subscript) const {
+        const long long i = static_cast<long long>(subscript) - lower_;
+        if (!allocated_ || i < 0 || i >= static_cast<long long>(items_.size())) throw Failure(errSubscript);
+        return static_cast<std::size_t>(i);
+    }
+
+    std::vector<T> items_;
+    Long lower_ = 0;
+    bool allocated_ = false;
+};
+
+}  // namespace quillet

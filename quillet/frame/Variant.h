@@ -1,0 +1,143 @@
+// quillet/frame/Variant.h - a value that carries its own kind.
+//
+//   Variant v;                      v.kind() == vbEmpty
+//   Variant::null().kind()          == vbNull
+//   Variant(Integer{2}).kind()      == vbInteger
+//   Variant(2).kind()               == vbLong      (an int literal is a Long)
+//   Variant(2.5f).kind()            == vbSingle
+//   Variant(2.5).kind()             == vbDouble
+//   Variant(Date{1.0}).kind()       == vbDate
+//   Variant(u"a").kind()            == vbString
+//   Variant(std::make_shared<clsPoint>()).kind() == vbObject
+//   Variant::missing().isMissing()  == true        (error kind, -2147352572)
+//   Variant(True).kind()            == vbBoolean
+//   Variant(Byte{7}).kind()         == vbByte
+//   Variant(Array<String>(0, 1)).kind() == vbArray + vbString
+//
+// A Variant owns its value; copies are deep, except for an object, which is a
+// shared reference. Conversions to numbers and text, which follow the regional
+// settings, are in convert.h; comparison of values as the host language does
+// it is a job for the members that need it. operator== here is plain
+// structural equality (same kind, same value), meant for tests and containers.
+#pragma once
+
+#include <memory>
+#include <typeindex>
+#include <typeinfo>
+#include <variant>
+
+#include "quillet/frame/Array.h"
+#include "quillet/frame/hostenums.h"
+#include "quillet/frame/types.h"
+
+namespace quillet {
+
+class Variant;
+
+// ObjectRef - a shared reference to any object, with the type it was made
+// from so it can be asked back. A null `pointer` is Nothing.
+struct ObjectRef {
+    std::shared_ptr<void> pointer;
+    std::type_index type = typeid(void);
+
+    friend bool operator==(const ObjectRef& a, const ObjectRef& b) noexcept { return a.pointer == b.pointer; }
+};
+
+// ErrorValue - the error kind's code. The missing value is one of these.
+struct ErrorValue {
+    Long code = 0;
+    friend bool operator==(ErrorValue, ErrorValue) = default;
+};
+
+inline constexpr Long MISSING_VALUE_CODE = -2147352572;  // an omitted optional argument
+
+class Variant {
+public:
+    // construction
+    Variant() noexcept = default;  // Empty
+    Variant(Integer v) : value_(v) {}
+    Variant(Long v) : value_(v) {}
+    Variant(Single v) : value_(v) {}
+    Variant(Double v) : value_(v) {}
+    Variant(Date v) : value_(v) {}
+    Variant(String v) : value_(std::move(v)) {}
+    Variant(StringView v) : value_(String(v)) {}
+    Variant(const char16_t* v) : value_(String(v)) {}
+    Variant(Boolean v) : value_(v) {}
+    Variant(bool v) : value_(Boolean(v)) {}
+    Variant(Byte v) : value_(v) {}
+    Variant(std::nullptr_t) : value_(ObjectRef{}) {}  // an object kind holding Nothing
+    template <class T>
+    Variant(std::shared_ptr<T> object) : value_(ObjectRef{std::move(object), typeid(T)}) {}
+    Variant(Array<Integer> v);
+    Variant(Array<Long> v);
+    Variant(Array<Single> v);
+    Variant(Array<Double> v);
+    Variant(Array<Date> v);
+    Variant(Array<String> v);
+    Variant(Array<Boolean> v);
+    Variant(Array<Byte> v);
+    Variant(Array<Variant> v);
+
+    [[nodiscard]] static Variant null() noexcept;
+    [[nodiscard]] static Variant missing() noexcept { return error(MISSING_VALUE_CODE); }
+    [[nodiscard]] static Variant error(Long code) noexcept;
+
+    // queries
+    // kind - the kind code; vbArray plus the element's code for an array.
+    [[nodiscard]] Integer kind() const noexcept;
+    [[nodiscard]] bool isEmpty() const noexcept { return value_.index() == 0; }
+    [[nodiscard]] bool isNull() const noexcept { return value_.index() == 1; }
+    [[nodiscard]] bool isMissing() const noexcept;
+    [[nodiscard]] bool isArray() const noexcept { return kind() >= vbArray; }
+    [[nodiscard]] bool isObject() const noexcept { return std::holds_alternative<ObjectRef>(value_); }
+    [[nodiscard]] bool isString() const noexcept { return std::holds_alternative<String>(value_); }
+    // isNothing - an object kind that holds no object.
+    [[nodiscard]] bool isNothing() const noexcept;
+
+    // getIf - the held value if it is exactly a T, else nullptr. T is one of
+    // the value types above, ObjectRef, ErrorValue or an Array<...>.
+    template <class T>
+    [[nodiscard]] const T* getIf() const noexcept {
+        return std::get_if<T>(&value_);
+    }
+    template <class T>
+    [[nodiscard]] T* getIf() noexcept {
+        return std::get_if<T>(&value_);
+    }
+
+    // object - the held object as a T; Nothing when it holds another type or
+    // Nothing. A Variant that holds no object kind fails with errTypeMismatch.
+    template <class T>
+    [[nodiscard]] std::shared_ptr<T> object() const {
+        const ObjectRef& ref = objectRef();
+        if (ref.type != typeid(T)) return nullptr;
+        return std::static_pointer_cast<T>(ref.pointer);
+    }
+    [[nodiscard]] const ObjectRef& objectRef() const;  // errTypeMismatch when no object kind
+
+    // visit - calls f with the held alternative (see Storage).
+    template <class F>
+    decltype(auto) visit(F&& f) const {
+        return std::visit(std::forward<F>(f), value_);
+    }
+
+    friend bool operator==(const Variant& a, const Variant& b);
+
+    // Implementation details follow.
+    struct EmptyValue {
+        friend bool operator==(EmptyValue, EmptyValue) = default;
+    };
+    struct NullValue {
+        friend bool operator==(NullValue, NullValue) = default;
+    };
+    using Storage =
+        std::variant<EmptyValue, NullValue, Integer, Long, Single, Double, Date, String, ObjectRef, ErrorValue, Boolean,
+                     Byte, Array<Integer>, Array<Long>, Array<Single>, Array<Double>, Array<Date>, Array<String>,
+                     Array<Boolean>, Array<Byte>, Array<Variant>>;
+
+private:
+    Storage value_;
+};
+
+}  // namespace quillet
