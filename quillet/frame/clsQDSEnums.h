@@ -1,0 +1,14 @@
+// quillet/frame/clsQDSEnums.h - the class that carried the data-source
+// enumerations (QDS...) in the original interface.
+//
+// The enumerations now live at namespace scope in enums.h, so the class is
+// empty: it remains only so that the interface keeps every class name.
+#pragma once
+
+#include "quillet/frame/enums.h"
+
+namespace quillet {
+
+class clsQDSEnums {};
+
+}  // namespace quillet
