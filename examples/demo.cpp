@@ -47,5 +47,31 @@ int main() {
     attempt([&] { colors->Add(u"again", u"r"); });  // duplicate key: skipped
     show("count", numberText(colors->Count()));
     show("item \"b\"", toText(colors->Item(u"b")));
+
+    std::cout << "\nDates under two regional profiles\n";
+    const Date day{42006.75};  // 2 January 2015, 18:00
+    clsDate dates;
+    show("US English, long format", dates.getDatePreview(formatDate(day, vbGeneralDate), u"dddd, mmmm d, yyyy hh:nn AM/PM", False));
+    show("US English, dateToString", clsString{}.dateToString(day));
+    {
+        RegionalScope german(RegionalSettings::fromLocale("de_DE"));
+        show("German, general date", formatDate(day, vbGeneralDate));
+        show("German, number text of 1.5", numberText(1.5));
+        show("German, numeric prefix of \"1,5\" (the point is the only separator)", numberText(numericPrefix(u"1,5")));
+    }
+
+    std::cout << "\nThe road of one settings value\n";
+    auto barcode = std::make_shared<clsOptionsBarcode>();
+    barcode->setBarReduction(150);  // the one setter with a check: clamped to 0..100
+    show("getBarReduction after setBarReduction(150)", numberText(barcode->getBarReduction()));
+    const Variant saved = barcode->writeObject();  // each field an element ending in CR LF, inside "OptionsBarcode"
+    std::cout << toUtf8(toText(saved));
+    auto reopened = std::make_shared<clsOptionsBarcode>();
+    reopened->readObject(saved);  // each tag found by plain text search, passed to its setter
+    show("read back into a new object", numberText(reopened->getBarReduction()));
+    auto older = std::make_shared<clsOptionsBarcode>();
+    older->readObject(Variant(u"<OptionsBarcode><BarReduction>250</BarReduction>\r\n</OptionsBarcode>\r\n"));
+    show("a hand-edited 250 reads back clamped", numberText(older->getBarReduction()));
+    show("and the absent \"AI\" reads as", u"\"" + older->getAI() + u"\" (not \"00\")");
     return 0;
 }

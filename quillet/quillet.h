@@ -1,21 +1,64 @@
-// quillet/quillet.h - the one header a host needs.
+// quillet/quillet.h - the one header a host needs: every public class.
 //
 //   #include <quillet/quillet.h>
 //   using namespace quillet;
-//   String text = numberText(1.5);                  // u"1.5"
-//   Double value = numericPrefix(u"12.5kg");        // 12.5
+//   String text = numberText(1.5);                  // u"1.5" under the default profile
+//   auto barcode = std::make_shared<clsOptionsBarcode>();
+//   barcode->setBarReduction(150);                  // clamped to 100
+//   Variant saved = barcode->writeObject();         // u"<OptionsBarcode>...</OptionsBarcode>\r\n"
 #pragma once
 
 #include "quillet/frame/Array.h"
+#include "quillet/frame/Calendar.h"
 #include "quillet/frame/Collection.h"
 #include "quillet/frame/DateText.h"
 #include "quillet/frame/Failure.h"
+#include "quillet/frame/Like.h"
 #include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/TextCompare.h"
 #include "quillet/frame/Variant.h"
 #include "quillet/frame/checked.h"
+#include "quillet/frame/clsEnum.h"
+#include "quillet/frame/clsQDSEnums.h"
 #include "quillet/frame/convert.h"
+#include "quillet/frame/enums.h"
 #include "quillet/frame/hostenums.h"
 #include "quillet/frame/types.h"
 #include "quillet/frame/utf8.h"
+
+#include "quillet/platform/Base64.h"
+#include "quillet/platform/Clock.h"
+#include "quillet/platform/CodePage.h"
+#include "quillet/platform/ListControl.h"
+
+#include "quillet/text/clsNumericHandling.h"
+#include "quillet/text/clsString.h"
+
+#include "quillet/persistence/clsBlockInfo.h"
+#include "quillet/persistence/clsBlockReader.h"
+#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/clsFontSymbol.h"
+#include "quillet/persistence/clsHashedObject.h"
+#include "quillet/persistence/clsPoint.h"
+#include "quillet/persistence/clsRulerSettings.h"
+#include "quillet/persistence/clsSelectionRange.h"
+#include "quillet/persistence/clsTokenValuePair.h"
+
+#include "quillet/datetime/clsDate.h"
+
+#include "quillet/labeldata/clsConstants.h"
+#include "quillet/labeldata/clsOptionsBarcode.h"
+#include "quillet/labeldata/clsUccAISpec.h"
+
+#include "quillet/settings/clsDesignContext.h"
+#include "quillet/settings/clsDrawAttributes.h"
+#include "quillet/settings/clsEPL2.h"
+#include "quillet/settings/clsLogManagementSettings.h"
+#include "quillet/settings/clsMaskProperties.h"
+#include "quillet/settings/clsOptionsLayers.h"
+#include "quillet/settings/clsOptionsPrinter.h"
+#include "quillet/settings/clsOptionsSignaturePad.h"
+#include "quillet/settings/clsPrintCounter.h"
+#include "quillet/settings/clsSystemData.h"
+#include "quillet/settings/clsZPL2.h"

@@ -13,7 +13,9 @@ namespace quillet {
 namespace {
 
 // Lays out `digits` significant digits of `value` the way %.<digits>G does,
-// with the regional decimal separator and a capital E.
+// with the regional decimal separator and a capital E. The text is built in a
+// buffer on the stack and becomes a String once: number text is on the path
+// of every saved field.
 String floatingText(double value, int digits) {
     if (value == 0.0) return u"0";  // also turns -0 into 0
     if (!std::isfinite(value)) return std::isnan(value) ? u"NaN" : (value < 0 ? u"-Infinity" : u"Infinity");
@@ -34,35 +36,47 @@ String floatingText(double value, int digits) {
     while (n > 1 && mantissa[n - 1] == '0') --n;
 
     const String& sep = RegionalSettings::current().decimalSeparator;
-    String out;
-    out.reserve(MAX_NUMBER_TEXT_LENGTH);
-    if (negative) out += u'-';
+    // Longest text: sign, 15 digits, a separator, "E-308"; a separator of
+    // any length fits because the buffer grows with it.
+    constexpr std::size_t fixedRoom = 48;
+    char16_t small[fixedRoom + 8];
+    String large;
+    char16_t* out = small;
+    if (sep.size() > 8) {
+        large.resize(fixedRoom + sep.size());
+        out = large.data();
+    }
+    char16_t* const begin = out;
+    const auto putSep = [&] {
+        for (char16_t c : sep) *out++ = c;
+    };
+
+    if (negative) *out++ = u'-';
     if (exponent < -4 || exponent >= digits) {
-        out += static_cast<char16_t>(mantissa[0]);
+        *out++ = static_cast<char16_t>(mantissa[0]);
         if (n > 1) {
-            out += sep;
-            for (int i = 1; i < n; ++i) out += static_cast<char16_t>(mantissa[i]);
+            putSep();
+            for (int i = 1; i < n; ++i) *out++ = static_cast<char16_t>(mantissa[i]);
         }
-        out += u'E';
-        out += exponent < 0 ? u'-' : u'+';
+        *out++ = u'E';
+        *out++ = exponent < 0 ? u'-' : u'+';
         const int e = exponent < 0 ? -exponent : exponent;
-        if (e < 10) out += u'0';
-        char eb[8];
-        const auto er = std::to_chars(eb, eb + sizeof eb, e);
-        for (const char* q = eb; q != er.ptr; ++q) out += static_cast<char16_t>(*q);
+        if (e >= 100) *out++ = static_cast<char16_t>(u'0' + e / 100);
+        *out++ = static_cast<char16_t>(u'0' + e / 10 % 10);
+        *out++ = static_cast<char16_t>(u'0' + e % 10);
     } else if (exponent >= 0) {
-        for (int i = 0; i <= exponent; ++i) out += static_cast<char16_t>(i < n ? mantissa[i] : '0');
+        for (int i = 0; i <= exponent; ++i) *out++ = static_cast<char16_t>(i < n ? mantissa[i] : '0');
         if (n > exponent + 1) {
-            out += sep;
-            for (int i = exponent + 1; i < n; ++i) out += static_cast<char16_t>(mantissa[i]);
+            putSep();
+            for (int i = exponent + 1; i < n; ++i) *out++ = static_cast<char16_t>(mantissa[i]);
         }
     } else {
-        out += u'0';
-        out += sep;
-        out.append(static_cast<std::size_t>(-exponent - 1), u'0');
-        for (int i = 0; i < n; ++i) out += static_cast<char16_t>(mantissa[i]);
+        *out++ = u'0';
+        putSep();
+        for (int i = -1; i > exponent; --i) *out++ = u'0';
+        for (int i = 0; i < n; ++i) *out++ = static_cast<char16_t>(mantissa[i]);
     }
-    return out;
+    return String(begin, out);
 }
 
 template <class T>
@@ -111,20 +125,68 @@ std::optional<Double> radixNumber(StringView text, std::size_t pos, int radix, b
 
 enum class Parsed { Number, NoNumber, OutOfRange };
 
+// True when the number text `ascii` ([-]digits[.digits][e[-]digits], already
+// validated) lies below 1 in magnitude: from_chars reports both ends of the
+// range as out of range, and the small end is a number, zero.
+bool belowOne(const std::string& ascii) noexcept {
+    long magnitude = 0;  // decimal exponent of the first significant digit, roughly
+    std::size_t i = (!ascii.empty() && ascii[0] == '-') ? 1 : 0;
+    bool seenPoint = false;
+    bool significant = false;
+    for (; i < ascii.size() && ascii[i] != 'e'; ++i) {
+        if (ascii[i] == '.') {
+            seenPoint = true;
+        } else if (!significant && ascii[i] == '0') {
+            if (seenPoint) --magnitude;
+        } else {
+            significant = true;
+            if (!seenPoint) ++magnitude;
+        }
+    }
+    if (i < ascii.size()) {
+        long e = 0;
+        const char* first = ascii.data() + i + 1;
+        const bool minus = *first == '-';
+        if (minus || *first == '+') ++first;
+        std::from_chars(first, ascii.data() + ascii.size(), e);  // the callers keep it short
+        magnitude += minus ? -e : e;
+    }
+    return magnitude <= 0;
+}
+
 // Converts an ASCII number text that the callers have already validated.
 Parsed toDouble(const std::string& ascii, double& value) noexcept {
     value = 0;
     const auto res = std::from_chars(ascii.data(), ascii.data() + ascii.size(), value);
     if (res.ec == std::errc::result_out_of_range) {
-        // from_chars reports both ends; an underflow is a number: zero.
-        const auto e = ascii.find('e');
         value = 0;
-        return (e != std::string::npos && ascii[e + 1] == '-') ? Parsed::Number : Parsed::OutOfRange;
+        return belowOne(ascii) ? Parsed::Number : Parsed::OutOfRange;
     }
     if (res.ec != std::errc()) value = 0;
     return Parsed::Number;
 }
 
+// Appends the exponent digits of text[i..] (skipping what `skip` accepts) to
+// `ascii` without leading zeros and at most nine of them: beyond that the
+// value is out of range either way. Returns the index after the digits and
+// whether there was any digit.
+template <class Skip>
+std::size_t appendExponentDigits(StringView text, std::size_t i, std::size_t n, std::string& ascii, bool& any,
+                                 Skip skip) {
+    int kept = 0;
+    any = false;
+    for (; i < n; ++i) {
+        if (skip(text[i])) continue;
+        if (!isDigit(text[i])) break;
+        any = true;
+        if (kept == 0 && text[i] == u'0') continue;
+        if (kept < 9) ascii += static_cast<char>(text[i]);
+        ++kept;
+    }
+    if (any && kept == 0) ascii += '0';
+    if (kept > 9) ascii.replace(ascii.size() - 9, 9, "999999999");  // saturates, still out of range
+    return i;
+}
 
 }  // namespace
 
@@ -175,22 +237,12 @@ Double numericPrefix(StringView text) noexcept {
         while (j < n && isSkipped(text[j])) ++j;
         std::string exponent = "e";
         if (j < n && (text[j] == u'-' || text[j] == u'+')) {
-            exponent += static_cast<char>(text[j]);
+            if (text[j] == u'-') exponent += '-';
             ++j;
         }
         bool anyExponentDigit = false;
-        for (; j < n; ++j) {
-            if (isSkipped(text[j])) continue;
-            if (!isDigit(text[j])) break;
-            // Leading zeros and absurd lengths add nothing but risk: the value
-            // is out of range long before the exponent has six digits.
-            if (exponent.size() < 12 && !(text[j] == u'0' && exponent.back() < '0')) exponent += static_cast<char>(text[j]);
-            anyExponentDigit = true;
-        }
-        if (anyExponentDigit) {
-            if (exponent.back() < '0') exponent += '0';
-            ascii += exponent;
-        }
+        appendExponentDigits(text, j, n, exponent, anyExponentDigit, isSkipped);
+        if (anyExponentDigit) ascii += exponent;
     }
     double value = 0;
     toDouble(ascii, value);  // out of range leaves 0
@@ -247,11 +299,13 @@ Parsed parseStrict(StringView text, double& value) noexcept {
         if (e != u'E' && e != u'e' && e != u'D' && e != u'd') return Parsed::NoNumber;
         ++i;
         ascii += 'e';
-        if (i < n && (text[i] == u'-' || text[i] == u'+')) ascii += static_cast<char>(text[i++]);
-        const std::size_t first = i;
-        for (; i < n && isDigit(text[i]); ++i)
-            if (ascii.size() < 64) ascii += static_cast<char>(text[i]);
-        if (i == first || i != n) return Parsed::NoNumber;
+        if (i < n && (text[i] == u'-' || text[i] == u'+')) {
+            if (text[i] == u'-') ascii += '-';
+            ++i;
+        }
+        bool anyExponentDigit = false;
+        i = appendExponentDigits(text, i, n, ascii, anyExponentDigit, [](char16_t) { return false; });
+        if (!anyExponentDigit || i != n) return Parsed::NoNumber;
     }
     return toDouble(ascii, value);
 }

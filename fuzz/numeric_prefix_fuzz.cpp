@@ -1,0 +1,74 @@
+// Numeric prefix and strict conversion on arbitrary UTF-16 text, and number
+// text read back on arbitrary doubles. Properties checked:
+//  - numericPrefix never fails and gives a finite value;
+//  - tryParseNumber and parseNumber agree, and parseNumber fails only with
+//    errTypeMismatch or errOverflow;
+//  - a double's number text reads back, under US and German profiles, to a
+//    value with the same number text (15 digits survive), and under US the
+//    numeric prefix reads it the same way as strict conversion.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+#include "quillet/frame/Failure.h"
+#include "quillet/frame/NumberText.h"
+#include "quillet/frame/RegionalSettings.h"
+
+using namespace quillet;
+
+namespace {
+
+void check(bool condition) {
+    if (!condition) std::abort();
+}
+
+void roundTrip(double v) {
+    const String text = numberText(v);
+    double back = 0;
+    try {
+        back = parseNumber(text);
+    } catch (const Failure& f) {
+        // Only the largest values, which round up past the range, may overflow.
+        check(f.number() == errOverflow && std::fabs(v) > 1.79769313486231e308);
+        return;
+    }
+    check(numberText(back) == text);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    RegionalSettings::setCurrent(RegionalSettings::usEnglish());
+    String text(size / 2, u'\0');
+    if (!text.empty()) std::memcpy(text.data(), data, text.size() * 2);
+
+    const double prefix = numericPrefix(text);
+    check(std::isfinite(prefix));
+
+    const auto maybe = tryParseNumber(text);
+    try {
+        const double strict = parseNumber(text);
+        check(maybe.has_value() && *maybe == strict && std::isfinite(strict));
+    } catch (const Failure& f) {
+        check(!maybe.has_value());
+        check(f.number() == errTypeMismatch || f.number() == errOverflow);
+    }
+
+    if (size >= 8) {
+        double v;
+        std::memcpy(&v, data, 8);
+        if (std::isfinite(v)) {
+            roundTrip(v);
+            const String us = numberText(v);
+            try {
+                check(numericPrefix(us) == parseNumber(us));
+            } catch (const Failure&) {
+            }
+            static const RegionalSettings german = RegionalSettings::fromLocale("de_DE");
+            RegionalScope de(german);
+            roundTrip(v);
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,74 @@
+#include "quillet/labeldata/clsUccAISpec.h"
+
+#include "quillet/frame/Failure.h"
+#include "quillet/frame/TextCompare.h"
+#include "quillet/labeldata/modConstants.h"
+
+namespace quillet {
+
+clsUccAISpec::clsUccAISpec() { setDefaults(); }
+
+void clsUccAISpec::setDefaults() {
+    setAI(modConstants::DEFAULT_UCC128_APPLICATION_CODE);
+    setIsDataNumeric(modConstants::DEFAULT_UCC128_DATA_FORMAT_IS_DATA_NUMERIC);
+    setMinLen(modConstants::DEFAULT_UCC128_DATA_FORMAT_MIN_LENGTH);
+    setMaxLen(modConstants::DEFAULT_UCC128_DATA_FORMAT_MAX_LENGTH);
+    setDescription(modConstants::DEFAULT_UCC128_APPLICATION_DESCRIPTION);
+    setUsesDataCheckDigit(modConstants::DEFAULT_UCC128_USES_DATA_CHECK_DIGIT);
+    setHasPredefinedLength(modConstants::DEFAULT_UCC128_HAS_PREDEFINED_LENGTH);
+}
+
+String clsUccAISpec::getAI() const { return ai; }
+void clsUccAISpec::setAI(const String& ai_) { ai = ai_; }
+Boolean clsUccAISpec::getIsDataNumeric() const { return isDataNumeric; }
+void clsUccAISpec::setIsDataNumeric(Boolean is_data_numeric_) { isDataNumeric = is_data_numeric_; }
+Long clsUccAISpec::getMinLen() const { return minLen; }
+void clsUccAISpec::setMinLen(Long min_len_) { minLen = min_len_; }
+Long clsUccAISpec::getMaxLen() const { return maxLen; }
+void clsUccAISpec::setMaxLen(Long max_len_) { maxLen = max_len_; }
+String clsUccAISpec::getDescription() const { return description; }
+void clsUccAISpec::setDescription(const String& description_) { description = description_; }
+Boolean clsUccAISpec::getUsesDataCheckDigit() const { return usesDataCheckDigit; }
+void clsUccAISpec::setUsesDataCheckDigit(Boolean uses_data_check_digit_) {
+    usesDataCheckDigit = uses_data_check_digit_;
+}
+Boolean clsUccAISpec::getHasPredefinedLength() const { return hasPredefinedLength; }
+void clsUccAISpec::setHasPredefinedLength(Boolean has_predefined_length_) {
+    hasPredefinedLength = has_predefined_length_;
+}
+
+void clsUccAISpec::assignObject(std::shared_ptr<clsUccAISpec>& application_) {
+    // No guard for Nothing: each copy fails on its own and is skipped.
+    attempt([&] { setAI(deref(application_).getAI()); });
+    attempt([&] { setIsDataNumeric(deref(application_).getIsDataNumeric()); });
+    attempt([&] { setMinLen(deref(application_).getMinLen()); });
+    attempt([&] { setMaxLen(deref(application_).getMaxLen()); });
+    attempt([&] { setDescription(deref(application_).getDescription()); });
+    attempt([&] { setUsesDataCheckDigit(deref(application_).getUsesDataCheckDigit()); });
+    attempt([&] { setHasPredefinedLength(deref(application_).getHasPredefinedLength()); });
+}
+
+Boolean clsUccAISpec::isVariableLen() const { return minLen != maxLen; }
+
+bool clsUccAISpec::endsInPlaceholder(char16_t placeholder) const {
+    if (ai.empty()) return false;
+    // Only the last character counts; folding it makes X and Y count too.
+    const String last = foldCase(StringView(ai).substr(ai.size() - 1));
+    return last.size() == 1 && last.front() == placeholder;
+}
+
+Boolean clsUccAISpec::containsLotNumber() const {
+    bool result = false;
+    attempt([&] { result = endsInPlaceholder(u'x'); });
+    return result;
+}
+
+Boolean clsUccAISpec::containsDecimalInfo() const {
+    bool result = false;
+    attempt([&] { result = endsInPlaceholder(u'y'); });
+    return result;
+}
+
+Boolean clsUccAISpec::containsLotOrDecimalChar() const { return containsLotNumber() || containsDecimalInfo(); }
+
+}  // namespace quillet

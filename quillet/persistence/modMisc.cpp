@@ -1,0 +1,23 @@
+#include "quillet/persistence/modMisc.h"
+
+namespace quillet::modMisc {
+
+Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
+    StringView s = text;
+    while (!s.empty() && s.front() == u' ') s.remove_prefix(1);
+    while (!s.empty() && s.back() == u' ') s.remove_suffix(1);
+    // The four words are ASCII, and no other character lower-cases into
+    // ASCII letters, so ASCII lower-casing decides exactly as full lower-casing.
+    if (s.size() > 5) return default_value_;
+    char16_t lower[5] = {};
+    for (std::size_t i = 0; i < s.size(); ++i) {
+        const char16_t c = s[i];
+        lower[i] = (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c + 32) : c;
+    }
+    const StringView word(lower, s.size());
+    if (word == u"true" || word == u"yes") return True;
+    if (word == u"false" || word == u"no") return False;
+    return default_value_;
+}
+
+}  // namespace quillet::modMisc

@@ -1,0 +1,108 @@
+#include "quillet/settings/clsOptionsLayers.h"
+
+#include <gtest/gtest.h>
+
+#include "quillet/frame/utf8.h"
+
+namespace quillet {
+namespace {
+
+std::string saved(const clsOptionsLayers& l) {
+    const Variant buffer = l.writeObject();
+    const String* text = buffer.getIf<String>();
+    return text ? toUtf8(*text) : std::string("<not a String>");
+}
+
+std::shared_ptr<clsOptionsLayers> changed() {
+    auto l = std::make_shared<clsOptionsLayers>();
+    l->setX(-3);
+    l->setY(44);
+    l->setWidth(300);
+    l->setHeight(200);
+    return l;
+}
+
+void expectValues(const clsOptionsLayers& l, Long x, Long y, Long width, Long height, const char* where) {
+    EXPECT_EQ(l.getX(), x) << where;
+    EXPECT_EQ(l.getY(), y) << where;
+    EXPECT_EQ(l.getWidth(), width) << where;
+    EXPECT_EQ(l.getHeight(), height) << where;
+}
+
+const char* const FRESH_TEXT =
+    "<LayersOptions><Point><X>690</X>\r\n<Y>1005</Y>\r\n</Point>\r\n"
+    "<Width>0</Width>\r\n<Height>0</Height>\r\n</LayersOptions>\r\n";
+
+TEST(clsOptionsLayers, FreshObjectSavesTheGoldenTextWithTheNestedPoint) {
+    clsOptionsLayers fresh;
+    expectValues(fresh, 690, 1005, 0, 0, "fresh");
+    EXPECT_EQ(fresh.getSaveTag(), u"LayersOptions");
+    EXPECT_EQ(saved(fresh), FRESH_TEXT);
+
+    auto other = changed();
+    other->readObject(fresh.writeObject());
+    expectValues(*other, 690, 1005, 0, 0, "read back");
+
+    clsOptionsLayers copy;
+    copy.readObject(changed()->writeObject());
+    expectValues(copy, -3, 44, 300, 200, "changed round trip");
+}
+
+TEST(clsOptionsLayers, AbsentPointReadsAsOriginAndEmptyBufferKeepsAll) {
+    auto l = changed();
+    for (const Variant& empty : {Variant(), Variant(u""), Variant::null(), Variant(Nothing)}) {
+        l->readObject(empty);
+        expectValues(*l, -3, 44, 300, 200, "empty buffer");
+    }
+    l->readObject(Variant(u"<Width>77</Width>\r\n"));
+    expectValues(*l, 0, 0, 77, 0, "width only");
+
+    // The point reads only inside its own element: an X outside it is not its.
+    l = changed();
+    l->readObject(Variant(u"<X>5</X><Height>9</Height><Point><Y>8</Y></Point>"));
+    expectValues(*l, 0, 8, 0, 9, "X outside the point");
+
+    l = changed();
+    EXPECT_NO_THROW(l->readObject(Variant(u"<Point><X>1e99</X><Y>abc</Y></Point><Width>-2147483649</Width>")));
+    EXPECT_EQ(l->getY(), 0);
+    EXPECT_EQ(l->getWidth(), 300);  // beyond a Long: kept
+}
+
+TEST(clsOptionsLayers, PositionIsHeldNotShared) {
+    clsOptionsLayers l;
+    auto point = l.getPosition();
+    point->setX(10);  // the held point itself
+    EXPECT_EQ(l.getX(), 10);
+
+    auto mine = std::make_shared<clsPoint>();
+    mine->setX(1);
+    mine->setY(2);
+    l.setPosition(mine);  // values copied, no reference kept
+    mine->setX(99);
+    EXPECT_EQ(l.getX(), 1);
+    EXPECT_EQ(l.getY(), 2);
+    EXPECT_NE(l.getPosition(), mine);
+
+    std::shared_ptr<clsPoint> none;
+    l.setPosition(none);
+    ASSERT_NE(none, nullptr);
+    EXPECT_EQ(l.getX(), 0);
+    EXPECT_EQ(l.getY(), 0);
+}
+
+TEST(clsOptionsLayers, AssignObjectCopiesValuesAndNothingGivesDefaults) {
+    auto source = changed();
+    auto target = std::make_shared<clsOptionsLayers>();
+    target->assignObject(source);
+    expectValues(*target, -3, 44, 300, 200, "copied");
+    EXPECT_NE(target->getPosition(), source->getPosition());
+
+    std::shared_ptr<clsOptionsLayers> none;
+    target->assignObject(none);
+    ASSERT_NE(none, nullptr);
+    expectValues(*none, 690, 1005, 0, 0, "new object");
+    expectValues(*target, 690, 1005, 0, 0, "target took the defaults");
+}
+
+}  // namespace
+}  // namespace quillet

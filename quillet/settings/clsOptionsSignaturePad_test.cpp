@@ -1,0 +1,130 @@
+#include "quillet/settings/clsOptionsSignaturePad.h"
+
+#include <gtest/gtest.h>
+
+#include "quillet/frame/RegionalSettings.h"
+#include "quillet/frame/utf8.h"
+
+namespace quillet {
+namespace {
+
+std::string saved(const clsOptionsSignaturePad& p) {
+    const Variant buffer = p.writeObject();
+    const String* text = buffer.getIf<String>();
+    return text ? toUtf8(*text) : std::string("<not a String>");
+}
+
+std::shared_ptr<clsOptionsSignaturePad> changed() {
+    auto p = std::make_shared<clsOptionsSignaturePad>();
+    p->setForeColor(255);
+    p->setBackColor(65280);
+    p->setLineThickness(7);
+    p->setImageSize(SIGNATURE_PAD_IMAGE_SIZE_LARGE);
+    p->setImageQuality(SIGNATURE_PAD_IMAGE_QUALITY_MEDIUM);
+    p->setButtonOption(SIGNATURE_PAD_BT_NONE);
+    p->SetShowNdaOnPad(True);
+    p->SetDisplayStandbyMessage(True);
+    p->SetStandbyMessage(u"Please <sign> & wait");
+    p->SetLinesPerRefresh(40);
+    return p;
+}
+
+TEST(clsOptionsSignaturePad, FreshObjectSavesTheGoldenTextAndReadsItBack) {
+    clsOptionsSignaturePad fresh;
+    EXPECT_EQ(fresh.getSaveTag(), u"OptionsSignaturePad");
+    EXPECT_EQ(fresh.getBackColor(), 16777215);
+    EXPECT_EQ(fresh.GetLinesPerRefresh(), 25);
+    EXPECT_EQ(saved(fresh),
+              "<OptionsSignaturePad><ForeColor>0</ForeColor>\r\n"
+              "<BackColor>16777215</BackColor>\r\n"
+              "<LineThickness>2</LineThickness>\r\n"
+              "<ImageSize>0</ImageSize>\r\n"
+              "<ImageQuality>2</ImageQuality>\r\n"
+              "<ButtonOption>3</ButtonOption>\r\n"
+              "<ShowNdaOnPad>False</ShowNdaOnPad>\r\n"
+              "<DisplayStandbyMessage>False</DisplayStandbyMessage>\r\n"
+              "<StandbyMessage></StandbyMessage>\r\n"
+              "<LinesPerRefresh>25</LinesPerRefresh>\r\n"
+              "</OptionsSignaturePad>\r\n");
+    auto other = changed();
+    other->readObject(fresh.writeObject());
+    EXPECT_EQ(saved(*other), saved(fresh));
+
+    clsOptionsSignaturePad copy;
+    copy.readObject(changed()->writeObject());
+    EXPECT_EQ(saved(copy), saved(*changed()));
+    EXPECT_EQ(copy.GetStandbyMessage(), u"Please <sign> & wait");
+}
+
+TEST(clsOptionsSignaturePad, ReaderDefaultsDifferFromFreshDefaults) {
+    auto p = changed();
+    for (const Variant& empty : {Variant(), Variant(u""), Variant::null(), Variant(Nothing)}) {
+        p->readObject(empty);
+        EXPECT_EQ(saved(*p), saved(*changed()));
+    }
+    p->readObject(Variant(u"<Other>1</Other>"));
+    // Back colour, image quality and button option are not their fresh
+    // values; the absent line thickness is kept, not reset.
+    EXPECT_EQ(saved(*p),
+              "<OptionsSignaturePad><ForeColor>0</ForeColor>\r\n"
+              "<BackColor>0</BackColor>\r\n"
+              "<LineThickness>7</LineThickness>\r\n"
+              "<ImageSize>0</ImageSize>\r\n"
+              "<ImageQuality>0</ImageQuality>\r\n"
+              "<ButtonOption>0</ButtonOption>\r\n"
+              "<ShowNdaOnPad>False</ShowNdaOnPad>\r\n"
+              "<DisplayStandbyMessage>False</DisplayStandbyMessage>\r\n"
+              "<StandbyMessage></StandbyMessage>\r\n"
+              "<LinesPerRefresh>25</LinesPerRefresh>\r\n"
+              "</OptionsSignaturePad>\r\n");
+}
+
+TEST(clsOptionsSignaturePad, StrictFieldsKeepTheirValueOnNonNumbers) {
+    struct Row {
+        const char16_t* text;
+        Long thickness;  // from 7
+        Long lines;      // from 40
+        Long foreColor;  // the numeric-prefix reading of the same text, from 255
+    } rows[] = {
+        {u"3", 3, 3, 3},
+        {u" 4 ", 4, 4, 4},
+        {u"2.5", 2, 2, 2},
+        {u"3.5", 4, 4, 4},
+        {u"3x", 7, 40, 3},
+        {u"abc", 7, 40, 0},
+        {u"", 7, 25, 0},  // present but empty: each reader's default
+        {u"1e300", 7, 40, 255},
+        {u"2147483648", 7, 40, 255},
+    };
+    for (const Row& r : rows) {
+        auto p = changed();
+        const String text(r.text);
+        EXPECT_NO_THROW(p->readObject(Variant(u"<LineThickness>" + text + u"</LineThickness><LinesPerRefresh>" + text +
+                                              u"</LinesPerRefresh><ForeColor>" + text + u"</ForeColor>")));
+        EXPECT_EQ(p->getLineThickness(), r.thickness) << "\"" << toUtf8(text) << "\"";
+        EXPECT_EQ(p->GetLinesPerRefresh(), r.lines) << "\"" << toUtf8(text) << "\"";
+        EXPECT_EQ(p->getForeColor(), r.foreColor) << "\"" << toUtf8(text) << "\"";
+    }
+}
+
+TEST(clsOptionsSignaturePad, StrictFieldsReadTheRegionalDecimalSeparator) {
+    RegionalScope german(RegionalSettings::fromLocale("de_DE"));
+    auto p = changed();
+    p->readObject(Variant(u"<LineThickness>4,5</LineThickness><ForeColor>4,5</ForeColor>"));
+    EXPECT_EQ(p->getLineThickness(), 4);  // 4.5 rounds half-to-even
+    EXPECT_EQ(p->getForeColor(), 4);      // numeric prefix stops at the comma
+    p->readObject(Variant(u"<LineThickness>5.5</LineThickness><ForeColor>5.5</ForeColor>"));
+    EXPECT_EQ(p->getLineThickness(), 4);  // not a German number: kept
+    EXPECT_EQ(p->getForeColor(), 6);
+}
+
+TEST(clsOptionsSignaturePad, AssignObjectCopiesAllAndIsGuardedAgainstNothing) {
+    clsOptionsSignaturePad target;
+    target.assignObject(changed());
+    EXPECT_EQ(saved(target), saved(*changed()));
+    EXPECT_NO_THROW(target.assignObject(nullptr));
+    EXPECT_EQ(saved(target), saved(*changed()));
+}
+
+}  // namespace
+}  // namespace quillet
