@@ -4,6 +4,7 @@
 
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/convert.h"
+#include "quillet/frame/print.h"
 
 namespace quillet {
 namespace {
@@ -126,6 +127,26 @@ TEST(Boolean, TrueIsMinusOneAndARawOneIsDistinct) {
     EXPECT_TRUE(static_cast<bool>(one));
     EXPECT_NE(one, True);
     EXPECT_FALSE(!one);
+}
+
+}  // namespace
+}  // namespace quillet
+
+namespace quillet {
+namespace {
+
+TEST(Variant, PrintsItsValueAndKindForFailureMessages) {
+    auto printed = [](const Variant& v) { return ::testing::PrintToString(v); };
+    EXPECT_EQ(printed(Variant()), "Empty");
+    EXPECT_EQ(printed(Variant::null()), "Null");
+    EXPECT_EQ(printed(Variant(2.5)), "2.5 (Double)");
+    EXPECT_EQ(printed(Variant(Integer{-2})), "-2 (Integer)");
+    EXPECT_EQ(printed(Variant(True)), "True (Boolean)");
+    EXPECT_EQ(printed(Variant(u"<A>\"x\"</A>\r\n")), "\"<A>\\\"x\\\"</A>\\r\\n\" (String)");
+    EXPECT_EQ(printed(Variant::missing()), "Missing");
+    EXPECT_EQ(printed(Variant::error(5)), "Error 5");
+    EXPECT_EQ(printed(Variant(Nothing)), "Nothing");
+    EXPECT_EQ(printed(Variant(Array<String>())), "String()");
 }
 
 }  // namespace
