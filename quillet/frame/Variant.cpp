@@ -2,6 +2,9 @@
 
 namespace quillet {
 
+Variant::Variant(String v) : value_(std::move(v)) {}
+Variant::Variant(StringView v) : value_(String(v)) {}
+Variant::Variant(const char16_t* v) : value_(String(v)) {}
 Variant::Variant(Array<Integer> v) : value_(std::move(v)) {}
 Variant::Variant(Array<Long> v) : value_(std::move(v)) {}
 Variant::Variant(Array<Single> v) : value_(std::move(v)) {}

@@ -60,9 +60,10 @@ public:
     Variant(Single v) : value_(v) {}
     Variant(Double v) : value_(v) {}
     Variant(Date v) : value_(v) {}
-    Variant(String v) : value_(std::move(v)) {}
-    Variant(StringView v) : value_(String(v)) {}
-    Variant(const char16_t* v) : value_(String(v)) {}
+    // Out of line: inlined, g++ 12 warns of an uninitialized string in the move.
+    Variant(String v);
+    Variant(StringView v);
+    Variant(const char16_t* v);
     Variant(Boolean v) : value_(v) {}
     Variant(bool v) : value_(Boolean(v)) {}
     Variant(Byte v) : value_(v) {}

@@ -1,5 +1,6 @@
 #include "quillet/persistence/clsBufferIO.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -88,7 +89,10 @@ bool scan(StringView buffer, Long start_pos, StringView beg_tag, StringView end_
         std::size_t e = beg_pos;
         do {
             e = inStr(buffer, e + 1, end_tag);
-            b = inStr(buffer, b + 1, beg_tag);
+            // Only a begin tag that opens before e keeps the loop going; one
+            // at or after e ends it just as none does, so search no further.
+            const std::size_t horizon = std::min(buffer.size(), e + beg_tag.size() - 2);
+            b = e == NONE ? NONE : inStr(buffer.substr(0, horizon), b + 1, beg_tag);
         } while (e > b && b != NONE && e != NONE);
         end_pos = e;
     }
@@ -224,7 +228,7 @@ String readString(StringView buffer, StringView tag, const String& default_value
 }
 
 Double readNumber(StringView buffer, StringView tag) {
-    const Variant v = clsString().stringToNumber(String(elementText(buffer, tag)));
+    const Variant v = clsString().stringToNumber(elementText(buffer, tag));
     const Double* d = v.getIf<Double>();
     return d ? *d : 0.0;
 }
@@ -298,7 +302,7 @@ Variant clsBufferIO::ReadNumberBetween(const Variant& search_str_, const String&
         const clsString str;
         // A present element of blanks is not empty: it reads as 0, not as the default.
         if (!text.empty() || default_value_.isMissing()) {
-            result = str.stringToNumber(String(text));
+            result = str.stringToNumber(text);
         } else {
             result = str.stringToNumber(toText(default_value_));
         }

@@ -18,7 +18,7 @@ StringView trimBlanks(StringView s) noexcept {
 }
 }  // namespace
 
-Variant clsString::stringToNumber(const String& str_) const { return Variant(numericPrefix(trimBlanks(str_))); }
+Variant clsString::stringToNumber(StringView str_) const { return Variant(numericPrefix(trimBlanks(str_))); }
 
 Array<Byte> clsString::stringToBytes(const Variant& src_string) const {
     return stopOnFailure(Array<Byte>(), [&] {

@@ -21,7 +21,7 @@ public:
 
     // stringToNumber - the numeric prefix of the trimmed text, as a Double;
     // 0 when there is none. Never refuses.
-    [[nodiscard]] Variant stringToNumber(const String& str_) const;
+    [[nodiscard]] Variant stringToNumber(StringView str_) const;
     // stringToBytes - the text in the profile's ANSI code page, 0-based; an
     // empty array with no bounds for an empty text or a value that holds no text.
     [[nodiscard]] Array<Byte> stringToBytes(const Variant& src_string) const;
