@@ -9,29 +9,13 @@
 #include "quillet/frame/TextCompare.h"
 #include "quillet/frame/checked.h"
 #include "quillet/frame/convert.h"
+#include "quillet/frame/trim.h"
 #include "quillet/platform/Clock.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
 
 namespace {
-
-String trimBlanks(StringView s) {
-    while (!s.empty() && s.front() == u' ') s.remove_prefix(1);
-    while (!s.empty() && s.back() == u' ') s.remove_suffix(1);
-    return String(s);
-}
-
-String replaceAllBinary(StringView text, StringView what, StringView with) {
-    String out;
-    std::size_t at = 0;
-    for (std::size_t hit = text.find(what); hit != StringView::npos; hit = text.find(what, at)) {
-        out.append(text.substr(at, hit - at)).append(with);
-        at = hit + what.size();
-    }
-    out.append(text.substr(at));
-    return out;
-}
 
 // Every occurrence of `what`, by text comparison, removed. Folding keeps the
 // length, so positions in the folded text hold in the original.
@@ -141,15 +125,15 @@ String clsDate::validateDateFormat(const String& date_format_string_) const {
 }
 
 String clsDate::getDateVBFormatFromSystemformat(const String& sys_date_format_) const {
-    return replaceAllBinary(sys_date_format_, u"'", u"\"");
+    return replaceText(sys_date_format_, u"'", u"\"", vbBinaryCompare);
 }
 
 String clsDate::getDateSystemFormatFromVBFormat(const String& vb_date_format_) const {
-    return replaceAllBinary(vb_date_format_, u"\"", u"'");
+    return replaceText(vb_date_format_, u"\"", u"'", vbBinaryCompare);
 }
 
 String clsDate::removeWeekdayFromLongDateFormat(const String& date_) const {
-    String result = replaceAllBinary(trimBlanks(date_), u",", u" ");
+    String result = replaceText(trimBlanks(date_), u",", u" ", vbBinaryCompare);
     for (Long i = 1; i <= 7; ++i) {
         attempt([&] { result = removeAllText(result, weekdayName(i, false, vbUseSystemDayOfWeek)); });
         attempt([&] { result = removeAllText(result, weekdayName(i, true, vbUseSystemDayOfWeek)); });
@@ -256,7 +240,7 @@ Date clsDate::getRangeEndDate(AdmLogChoiceDate date_range_option_) const {
 
 Long clsDate::timeToNumber(const Variant& time_) const {
     Long result = 0;
-    attempt([&] { result = toLong(Variant(replaceAllBinary(formatValue(time_, u"HH:NN:SS"), u":", u""))); });
+    attempt([&] { result = toLong(Variant(replaceText(formatValue(time_, u"HH:NN:SS"), u":", u"", vbBinaryCompare))); });
     return result;
 }
 
@@ -285,7 +269,7 @@ String clsDate::getDaysStringFromCollection(const std::shared_ptr<Collection>& s
     const Long count = selected_days_->Count();
     for (Long i = 1; i <= count; ++i)
         attempt([&] { result = result + weekdayName(toLong(selected_days_->Item(Variant(i))), true, vbSunday) + u" "; });
-    return trimBlanks(result);
+    return String(trimBlanks(result));
 }
 
 // ---------------------------------------------------------------------------

@@ -1,11 +1,11 @@
 #include "quillet/persistence/modMisc.h"
 
+#include "quillet/frame/trim.h"
+
 namespace quillet::modMisc {
 
 Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
-    StringView s = text;
-    while (!s.empty() && s.front() == u' ') s.remove_prefix(1);
-    while (!s.empty() && s.back() == u' ') s.remove_suffix(1);
+    const StringView s = trimBlanks(text);
     // The four words are ASCII, and no other character lower-cases into
     // ASCII letters, so ASCII lower-casing decides exactly as full lower-casing.
     if (s.size() > 5) return default_value_;

@@ -5,18 +5,11 @@
 #include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/convert.h"
+#include "quillet/frame/trim.h"
 #include "quillet/platform/CodePage.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
-
-namespace {
-StringView trimBlanks(StringView s) noexcept {
-    while (!s.empty() && s.front() == u' ') s.remove_prefix(1);
-    while (!s.empty() && s.back() == u' ') s.remove_suffix(1);
-    return s;
-}
-}  // namespace
 
 Variant clsString::stringToNumber(StringView str_) const { return Variant(numericPrefix(trimBlanks(str_))); }
 
