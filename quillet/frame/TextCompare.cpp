@@ -1,7 +1,11 @@
 #include "quillet/frame/TextCompare.h"
 
+#include <limits>
+
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
+
+#include "quillet/frame/Failure.h"
 
 namespace quillet {
 
@@ -94,6 +98,17 @@ std::size_t findTextReverse(StringView haystack, StringView needle, std::size_t 
     const String h = foldCase(haystack);
     const String n = foldCase(needle);
     return StringView(h).rfind(n);
+}
+
+Long inStr(Long start, StringView haystack, StringView needle, VbCompareMethod mode) {
+    if (start < 1) throw Failure(errInvalidCall);
+    const auto from = static_cast<std::size_t>(start);
+    if (from > haystack.size()) return 0;
+    if (needle.empty()) return start;
+    const std::size_t p = findText(haystack, needle, from - 1, mode);
+    if (p == npos) return 0;
+    if (p >= static_cast<std::size_t>(std::numeric_limits<Long>::max())) throw Failure(errOverflow);
+    return static_cast<Long>(p + 1);
 }
 
 String replaceText(StringView text, StringView find, StringView replacement, VbCompareMethod mode) {

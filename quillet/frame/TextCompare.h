@@ -62,6 +62,14 @@ inline constexpr std::size_t npos = StringView::npos;
 [[nodiscard]] std::size_t findTextReverse(StringView haystack, StringView needle, std::size_t end0 = npos,
                                           VbCompareMethod mode = vbBinaryCompare);
 
+// inStr - the host language's InStr: the 1-based position of `needle` in
+// `haystack` at or after the 1-based `start`, 0 when there is none. A start
+// beyond the text gives 0; an empty needle is found at `start`. A start below
+// 1 fails with errInvalidCall.
+//   inStr(1, u"a<b<c", u"<")  2      inStr(3, u"a<b<c", u"<")  4
+//   inStr(6, u"a<b<c", u"")   0      inStr(0, u"abc", u"a")    throws
+[[nodiscard]] Long inStr(Long start, StringView haystack, StringView needle, VbCompareMethod mode = vbBinaryCompare);
+
 // replaceText - every occurrence of `find` replaced by `replacement`, taken
 // left to right without overlap; the search goes on after each replacement,
 // never into it. An empty `find` leaves the text unchanged.

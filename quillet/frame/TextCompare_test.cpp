@@ -157,3 +157,20 @@ TEST(Like, TextModeAndLongInputs) {
 
 }  // namespace
 }  // namespace quillet
+
+namespace quillet {
+namespace {
+
+TEST(TextCompare, InStrIsOneBasedAndFailsBelowOne) {
+    EXPECT_EQ(inStr(1, u"a<b<c", u"<"), 2);
+    EXPECT_EQ(inStr(3, u"a<b<c", u"<"), 4);
+    EXPECT_EQ(inStr(5, u"a<b<c", u"<"), 0);
+    EXPECT_EQ(inStr(5, u"a<b<c", u""), 5);   // an empty needle is found at start...
+    EXPECT_EQ(inStr(6, u"a<b<c", u""), 0);   // ...unless start is past the end
+    EXPECT_EQ(inStr(1, u"aXb", u"x"), 0);
+    EXPECT_EQ(inStr(1, u"aXb", u"x", vbTextCompare), 2);
+    EXPECT_THROW((void)inStr(0, u"abc", u"a"), Failure);
+}
+
+}  // namespace
+}  // namespace quillet

@@ -4,6 +4,7 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/NumberText.h"
+#include "quillet/frame/TextCompare.h"
 #include "quillet/frame/checked.h"
 #include "quillet/frame/convert.h"
 
@@ -14,26 +15,14 @@ namespace {
 constexpr StringView HEADER_START = u"<BLOCK ";
 constexpr StringView HEADER_END = u">";
 
-// inStr - the 1-based position of needle at or after 1-based start, 0 for
-// none; a start below 1 fails as the platform's search does.
-Long inStr(StringView hay, Long start, StringView needle) {
-    if (start < 1) throw Failure(errInvalidCall);
-    const auto from = static_cast<std::size_t>(start);
-    if (from > hay.size()) return 0;
-    if (needle.empty()) return start;
-    const std::size_t p = hay.find(needle, from - 1);
-    if (p == StringView::npos) return 0;
-    return toLong(static_cast<double>(p) + 1.0);
-}
-
 // keyValue - the text after `opening` up to `closing` in a header. An absent
 // opening mark counts as position 0, so the search starts at its length; an
 // absent closing mark gives the empty text.
 String keyValue(StringView header, StringView opening, StringView closing) {
     return stopOnFailure(String(), [&] {
-        const Long at = inStr(header, 1, opening);
+        const Long at = inStr(1, header, opening);
         const Long from = checked::add(at, static_cast<Long>(opening.size()));
-        const Long to = inStr(header, from, closing);
+        const Long to = inStr(from, header, closing);
         if (to == 0) return String();
         return String(header.substr(static_cast<std::size_t>(from - 1), static_cast<std::size_t>(to - from)));
     });
@@ -79,9 +68,9 @@ void clsBlockReader::scanBuffer() {
         Long count = 0;
         Long p = 1;
         while (p <= length) {
-            const Long at = inStr(buffer, p, HEADER_START);
+            const Long at = inStr(p, buffer, HEADER_START);
             if (at == 0) break;
-            const Long close = inStr(buffer, at, HEADER_END);
+            const Long close = inStr(at, buffer, HEADER_END);
             if (close < at) break;
             if (!seen.insert(at).second) break;
             const StringView header = buffer.substr(static_cast<std::size_t>(at - 1),
