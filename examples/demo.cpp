@@ -21,8 +21,8 @@ Long sumOfSquares(const Array<Long>& values) {
 
 int main() {
     std::cout << "quillet demonstration\n\nValues and their kinds\n";
-    const Variant values[] = {Variant(), Variant::null(), Variant(Integer{2}), Variant(2), Variant(2.5f),
-                              Variant(2.5), Variant(True), Variant(u"text")};
+    const Variant values[] = {Variant(),     Variant::null(), Variant(Integer{2}), Variant(2),
+                              Variant(2.5f), Variant(2.5),    Variant(True),       Variant(u"text")};
     for (const Variant& v : values) {
         const String text = stopOnFailure(String(u"(no text)"), [&] { return toText(v); });
         std::cout << "  kind " << v.kind() << " -> " << toUtf8(text) << '\n';
@@ -51,7 +51,8 @@ int main() {
     std::cout << "\nDates under two regional profiles\n";
     const Date day{42006.75};  // 2 January 2015, 18:00
     clsDate dates;
-    show("US English, long format", dates.getDatePreview(formatDate(day, vbGeneralDate), u"dddd, mmmm d, yyyy hh:nn AM/PM", False));
+    show("US English, long format",
+         dates.getDatePreview(formatDate(day, vbGeneralDate), u"dddd, mmmm d, yyyy hh:nn AM/PM", False));
     show("US English, dateToString", clsString{}.dateToString(day));
     {
         RegionalScope german(RegionalSettings::fromLocale("de_DE"));

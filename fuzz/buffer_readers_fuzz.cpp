@@ -16,9 +16,22 @@ namespace {
 // Bytes become code units one for one; 0xF0 to 0xFF map to a few characters
 // whose case folding is unusual, so the entity decoder meets them too.
 String textOf(const std::uint8_t* data, std::size_t size) {
-    static constexpr char16_t SPECIAL[16] = {u'\u017F', u'\u212A', u'\u0130', u'\u00DF', u'\u03A3', u'\uFFFD',
-                                             char16_t(0xD800), char16_t(0xDC00), u'\0', u'&',      u'<',      u'>',
-                                             u'/',      u';',      u'\r',     u'\n'};
+    static constexpr char16_t SPECIAL[16] = {u'\u017F',
+                                             u'\u212A',
+                                             u'\u0130',
+                                             u'\u00DF',
+                                             u'\u03A3',
+                                             u'\uFFFD',
+                                             char16_t(0xD800),
+                                             char16_t(0xDC00),
+                                             u'\0',
+                                             u'&',
+                                             u'<',
+                                             u'>',
+                                             u'/',
+                                             u';',
+                                             u'\r',
+                                             u'\n'};
     String s;
     s.reserve(size);
     for (std::size_t i = 0; i < size; ++i) s += data[i] >= 0xF0 ? SPECIAL[data[i] - 0xF0] : char16_t(data[i]);

@@ -19,9 +19,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::memcpy(&serial, data, sizeof serial);
     // Half the inputs use a serial inside the dates, so the format gets exercised.
     if (data[8] & 1) serial = std::isfinite(serial) ? std::fmod(std::fabs(serial), 3615900.0) - 657434.0 : 0.0;
-    const bool inRange = std::isfinite(serial) && serial > calendar::FIRST_SERIAL - 1.0 && serial < calendar::LAST_SERIAL + 1.0;
+    const bool inRange =
+        std::isfinite(serial) && serial > calendar::FIRST_SERIAL - 1.0 && serial < calendar::LAST_SERIAL + 1.0;
     String format;
-    for (std::size_t i = 9; i < size; ++i) format.push_back(data[8] & 2 ? static_cast<char16_t>(data[i]) : static_cast<char16_t>(data[i] | (i % 7 == 0 ? 0x2000 : 0)));
+    for (std::size_t i = 9; i < size; ++i)
+        format.push_back(data[8] & 2 ? static_cast<char16_t>(data[i])
+                                     : static_cast<char16_t>(data[i] | (i % 7 == 0 ? 0x2000 : 0)));
     static const RegionalSettings us = RegionalSettings::usEnglish();
     RegionalScope scope(us);
     const VbDayOfWeek firstDay = static_cast<VbDayOfWeek>(data[8] % 8);

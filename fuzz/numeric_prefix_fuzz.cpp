@@ -63,8 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             const String us = numberText(v);
             try {
                 check(numericPrefix(us) == parseNumber(us));
-            } catch (const Failure&) {
-            }
+            } catch (const Failure&) {}
             static const RegionalSettings german = RegionalSettings::fromLocale("de_DE");
             RegionalScope de(german);
             roundTrip(v);

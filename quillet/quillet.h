@@ -24,8 +24,8 @@
 #include "quillet/frame/convert.h"
 #include "quillet/frame/enums.h"
 #include "quillet/frame/hostenums.h"
-#include "quillet/frame/trim.h"
 #include "quillet/frame/print.h"
+#include "quillet/frame/trim.h"
 #include "quillet/frame/types.h"
 #include "quillet/frame/utf8.h"
 

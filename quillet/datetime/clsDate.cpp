@@ -74,28 +74,28 @@ String clsDate::getDatePreview(const String& date_value_, const String& date_for
 
 String clsDate::getDateFormatEnumToString(QltStandardDateFormats date_format_enum_) const {
     switch (date_format_enum_) {
-    case QLT_MM_dd_yy: return u"MM/dd/yy";
-    case QLT_M_d_yyyy: return u"M/d/yyyy";
-    case QLT_MM_dd_yyyy: return u"MM/dd/yyyy";
-    case QLT_d_M_yy: return u"d/M/yy";
-    case QLT_dd_MM_yy: return u"dd/MM/yy";
-    case QLT_d_M_yyyy: return u"d/M/yyyy";
-    case QLT_dd_MM_yyyy: return u"dd/MM/yyyy";
-    case QLT_dd_MMM_yy: return u"dd-MMM-yy";
-    case QLT_MMMM_dd_yyyy: return u"MMMM dd, yyyy";
-    case QLT_ddd_MMM_d_yy: return u"ddd, MMM d, yy";
-    case QLT_dddd_MMMM_dd_yyyy: return u"dddd, MMMM dd, yyyy";
-    default: return u"M/d/yy";
+        case QLT_MM_dd_yy: return u"MM/dd/yy";
+        case QLT_M_d_yyyy: return u"M/d/yyyy";
+        case QLT_MM_dd_yyyy: return u"MM/dd/yyyy";
+        case QLT_d_M_yy: return u"d/M/yy";
+        case QLT_dd_MM_yy: return u"dd/MM/yy";
+        case QLT_d_M_yyyy: return u"d/M/yyyy";
+        case QLT_dd_MM_yyyy: return u"dd/MM/yyyy";
+        case QLT_dd_MMM_yy: return u"dd-MMM-yy";
+        case QLT_MMMM_dd_yyyy: return u"MMMM dd, yyyy";
+        case QLT_ddd_MMM_d_yy: return u"ddd, MMM d, yy";
+        case QLT_dddd_MMMM_dd_yyyy: return u"dddd, MMMM dd, yyyy";
+        default: return u"M/d/yy";
     }
 }
 
 String clsDate::getTimeFormatEnumToString(QltStandardTimeFormats standard_time_format_) const {
     switch (standard_time_format_) {
-    case QLT_HH_MM_SS_AMPM: return u"hh:nn:ss ampm";
-    case QLT_HH_MM_SS: return u"hh:nn:ss";
-    case QLT_HH_MM_AMPM: return u"hh:nn ampm";
-    case QLT_HH_MM: return u"hh:nn";
-    default: return {};
+        case QLT_HH_MM_SS_AMPM: return u"hh:nn:ss ampm";
+        case QLT_HH_MM_SS: return u"hh:nn:ss";
+        case QLT_HH_MM_AMPM: return u"hh:nn ampm";
+        case QLT_HH_MM: return u"hh:nn";
+        default: return {};
     }
 }
 
@@ -143,19 +143,19 @@ String clsDate::removeWeekdayFromLongDateFormat(const String& date_) const {
 
 VbDateTimeFormat clsDate::getVBDateFromDateFormat(QltDateFormat date_format_) const {
     switch (date_format_) {
-    case QLT_DF_GENERAL:
-    case QLT_DF_SHORT: return vbShortDate;
-    case QLT_DF_LONG: return vbLongDate;
-    default: return vbGeneralDate;
+        case QLT_DF_GENERAL:
+        case QLT_DF_SHORT: return vbShortDate;
+        case QLT_DF_LONG: return vbLongDate;
+        default: return vbGeneralDate;
     }
 }
 
 VbDateTimeFormat clsDate::getVBTimeFromTimeFormat(QltTimeFormat time_format_) const {
     switch (time_format_) {
-    case QLT_TF_GENERAL:
-    case QLT_TF_LONG: return vbLongTime;
-    case QLT_TF_SHORT: return vbShortTime;
-    default: return vbGeneralDate;
+        case QLT_TF_GENERAL:
+        case QLT_TF_LONG: return vbLongTime;
+        case QLT_TF_SHORT: return vbShortTime;
+        default: return vbGeneralDate;
     }
 }
 
@@ -203,16 +203,22 @@ Date clsDate::getRangeStartDate(AdmLogChoiceDate date_range_option_) const {
     attempt([&] {
         const Date today = Clock::today();
         switch (date_range_option_) {
-        case ADM_LCD_ALL: result = EARLIEST_DATE(); break;
-        case ADM_LCD_CURRENT_DAY: result = today; break;
-        case ADM_LCD_YESTERDAY: result = calendar::dateAdd(u"d", -1, today); break;
-        case ADM_LCD_CURRENT_WEEK: result = viaShortDate(getFirstDayOfWeek(today)); break;
-        case ADM_LCD_PREVIOUS_WEEK: result = calendar::dateAdd(u"ww", -1, viaShortDate(getFirstDayOfWeek(today))); break;
-        case ADM_LCD_CURRENT_MONTH: result = viaShortDate(getFirstDayOfMonth(today)); break;
-        case ADM_LCD_PREVIOUS_MONTH: result = calendar::dateAdd(u"m", -1, viaShortDate(getFirstDayOfMonth(today))); break;
-        case ADM_LCD_CURRENT_YEAR: result = viaShortDate(getFirstDayOfYear(today)); break;
-        case ADM_LCD_PREVIOUS_YEAR: result = calendar::dateAdd(u"yyyy", -1, viaShortDate(getFirstDayOfYear(today))); break;
-        default: result = Date(); break;
+            case ADM_LCD_ALL: result = EARLIEST_DATE(); break;
+            case ADM_LCD_CURRENT_DAY: result = today; break;
+            case ADM_LCD_YESTERDAY: result = calendar::dateAdd(u"d", -1, today); break;
+            case ADM_LCD_CURRENT_WEEK: result = viaShortDate(getFirstDayOfWeek(today)); break;
+            case ADM_LCD_PREVIOUS_WEEK:
+                result = calendar::dateAdd(u"ww", -1, viaShortDate(getFirstDayOfWeek(today)));
+                break;
+            case ADM_LCD_CURRENT_MONTH: result = viaShortDate(getFirstDayOfMonth(today)); break;
+            case ADM_LCD_PREVIOUS_MONTH:
+                result = calendar::dateAdd(u"m", -1, viaShortDate(getFirstDayOfMonth(today)));
+                break;
+            case ADM_LCD_CURRENT_YEAR: result = viaShortDate(getFirstDayOfYear(today)); break;
+            case ADM_LCD_PREVIOUS_YEAR:
+                result = calendar::dateAdd(u"yyyy", -1, viaShortDate(getFirstDayOfYear(today)));
+                break;
+            default: result = Date(); break;
         }
     });
     return result;
@@ -223,16 +229,22 @@ Date clsDate::getRangeEndDate(AdmLogChoiceDate date_range_option_) const {
     attempt([&] {
         const Date today = Clock::today();
         switch (date_range_option_) {
-        case ADM_LCD_ALL: result = LATEST_DATE(); break;
-        case ADM_LCD_CURRENT_DAY: result = today; break;
-        case ADM_LCD_YESTERDAY: result = calendar::dateAdd(u"d", -1, today); break;
-        case ADM_LCD_CURRENT_WEEK: result = viaShortDate(getLastDayOfWeek(today)); break;
-        case ADM_LCD_PREVIOUS_WEEK: result = calendar::dateAdd(u"ww", -1, viaShortDate(getLastDayOfWeek(today))); break;
-        case ADM_LCD_CURRENT_MONTH: result = viaShortDate(getLastDayOfMonth(today)); break;
-        case ADM_LCD_PREVIOUS_MONTH: result = calendar::dateAdd(u"d", -1, viaShortDate(getFirstDayOfMonth(today))); break;
-        case ADM_LCD_CURRENT_YEAR: result = viaShortDate(getLastDayOfYear(today)); break;
-        case ADM_LCD_PREVIOUS_YEAR: result = calendar::dateAdd(u"yyyy", -1, viaShortDate(getLastDayOfYear(today))); break;
-        default: result = Date(); break;
+            case ADM_LCD_ALL: result = LATEST_DATE(); break;
+            case ADM_LCD_CURRENT_DAY: result = today; break;
+            case ADM_LCD_YESTERDAY: result = calendar::dateAdd(u"d", -1, today); break;
+            case ADM_LCD_CURRENT_WEEK: result = viaShortDate(getLastDayOfWeek(today)); break;
+            case ADM_LCD_PREVIOUS_WEEK:
+                result = calendar::dateAdd(u"ww", -1, viaShortDate(getLastDayOfWeek(today)));
+                break;
+            case ADM_LCD_CURRENT_MONTH: result = viaShortDate(getLastDayOfMonth(today)); break;
+            case ADM_LCD_PREVIOUS_MONTH:
+                result = calendar::dateAdd(u"d", -1, viaShortDate(getFirstDayOfMonth(today)));
+                break;
+            case ADM_LCD_CURRENT_YEAR: result = viaShortDate(getLastDayOfYear(today)); break;
+            case ADM_LCD_PREVIOUS_YEAR:
+                result = calendar::dateAdd(u"yyyy", -1, viaShortDate(getLastDayOfYear(today)));
+                break;
+            default: result = Date(); break;
         }
     });
     return result;
@@ -240,7 +252,8 @@ Date clsDate::getRangeEndDate(AdmLogChoiceDate date_range_option_) const {
 
 Long clsDate::timeToNumber(const Variant& time_) const {
     Long result = 0;
-    attempt([&] { result = toLong(Variant(replaceText(formatValue(time_, u"HH:NN:SS"), u":", u"", vbBinaryCompare))); });
+    attempt(
+        [&] { result = toLong(Variant(replaceText(formatValue(time_, u"HH:NN:SS"), u":", u"", vbBinaryCompare))); });
     return result;
 }
 
@@ -268,7 +281,8 @@ String clsDate::getDaysStringFromCollection(const std::shared_ptr<Collection>& s
     String result;
     const Long count = selected_days_->Count();
     for (Long i = 1; i <= count; ++i)
-        attempt([&] { result = result + weekdayName(toLong(selected_days_->Item(Variant(i))), true, vbSunday) + u" "; });
+        attempt(
+            [&] { result = result + weekdayName(toLong(selected_days_->Item(Variant(i))), true, vbSunday) + u" "; });
     return String(trimBlanks(result));
 }
 
@@ -292,9 +306,7 @@ Date clsDate::getLastDayOfMonth(Date date_) const {
 
 VbDayOfWeek clsDate::getFirstDayOfWeekEnum() const {
     VbDayOfWeek result = vbUseSystemDayOfWeek;
-    attempt([&] {
-        result = static_cast<VbDayOfWeek>(calendar::weekday(getFirstDayOfWeek(Clock::today()), vbSunday));
-    });
+    attempt([&] { result = static_cast<VbDayOfWeek>(calendar::weekday(getFirstDayOfWeek(Clock::today()), vbSunday)); });
     return result;
 }
 
@@ -370,9 +382,9 @@ Variant clsDate::variantToDateTimeStd(const Variant& date_time_value_) const {
 Variant clsDate::variantToDateTimeOptionStd(const Variant& date_time_value_,
                                             QltDateTimeOption date_time_option_) const {
     switch (date_time_option_) {
-    case QLT_DTO_DATE: return variantToDateStd(date_time_value_);
-    case QLT_DTO_TIME: return variantToTimeStd(date_time_value_, False);
-    default: return variantToDateTimeStd(date_time_value_);
+        case QLT_DTO_DATE: return variantToDateStd(date_time_value_);
+        case QLT_DTO_TIME: return variantToTimeStd(date_time_value_, False);
+        default: return variantToDateTimeStd(date_time_value_);
     }
 }
 
@@ -397,9 +409,8 @@ Boolean clsDate::isTimeOptionAvailable(QltDateTimeOption date_time_option_) cons
 }
 
 Boolean clsDate::containsDateValue(const Variant& date_time_value_) const {
-    return stopOnFailure(False, [&] {
-        return Boolean(formatValue(date_time_value_, vbShortDate) != formatDate(Date(), vbShortDate));
-    });
+    return stopOnFailure(
+        False, [&] { return Boolean(formatValue(date_time_value_, vbShortDate) != formatDate(Date(), vbShortDate)); });
 }
 
 Boolean clsDate::containsTimeValue(const Variant& date_time_value_, Boolean include_midnight_) const {
@@ -417,8 +428,7 @@ String clsDate::removeNullDateFromString(const String& date_time_value_) const {
     attempt([&] { nullDate = formatValue(Variant(MS_SQL_SERVER_NULL_DATE_VALUE()), vbShortDate); });
     if (attemptTest([&] { return date_time_value_.find(nullDate) != String::npos && !nullDate.empty(); }))
         attempt([&] { result = formatValue(Variant(date_time_value_), vbLongTime); });
-    else
-        result = date_time_value_;
+    else result = date_time_value_;
     return result;
 }
 

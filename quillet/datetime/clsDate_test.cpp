@@ -49,14 +49,16 @@ TEST(clsDate, HeaderExamplesAndConstants) {
 
 TEST(clsDate, FormatTables) {
     const clsDate d;
-    const char16_t* dates[] = {u"M/d/yy",      u"MM/dd/yy", u"M/d/yyyy",      u"MM/dd/yyyy",
-                               u"d/M/yy",      u"dd/MM/yy", u"d/M/yyyy",      u"dd/MM/yyyy",
-                               u"dd-MMM-yy",   u"MMMM dd, yyyy", u"ddd, MMM d, yy", u"dddd, MMMM dd, yyyy"};
-    for (Long i = 0; i < 12; ++i) EXPECT_EQ(d.getDateFormatEnumToString(static_cast<QltStandardDateFormats>(i)), dates[i]) << i;
+    const char16_t* dates[] = {u"M/d/yy",    u"MM/dd/yy",      u"M/d/yyyy",       u"MM/dd/yyyy",
+                               u"d/M/yy",    u"dd/MM/yy",      u"d/M/yyyy",       u"dd/MM/yyyy",
+                               u"dd-MMM-yy", u"MMMM dd, yyyy", u"ddd, MMM d, yy", u"dddd, MMMM dd, yyyy"};
+    for (Long i = 0; i < 12; ++i)
+        EXPECT_EQ(d.getDateFormatEnumToString(static_cast<QltStandardDateFormats>(i)), dates[i]) << i;
     EXPECT_EQ(d.getDateFormatEnumToString(QLT_STD_DATE_COUNT), u"M/d/yy");
     EXPECT_EQ(d.getDateFormatEnumToString(static_cast<QltStandardDateFormats>(-1)), u"M/d/yy");
     const char16_t* times[] = {u"hh:nn:ss ampm", u"hh:nn:ss", u"hh:nn ampm", u"hh:nn"};
-    for (Long i = 0; i < 4; ++i) EXPECT_EQ(d.getTimeFormatEnumToString(static_cast<QltStandardTimeFormats>(i)), times[i]) << i;
+    for (Long i = 0; i < 4; ++i)
+        EXPECT_EQ(d.getTimeFormatEnumToString(static_cast<QltStandardTimeFormats>(i)), times[i]) << i;
     EXPECT_EQ(d.getTimeFormatEnumToString(static_cast<QltStandardTimeFormats>(4)), u"");
     EXPECT_EQ(d.getVBDateFromDateFormat(QLT_DF_GENERAL), vbShortDate);
     EXPECT_EQ(d.getVBDateFromDateFormat(QLT_DF_SHORT), vbShortDate);
@@ -91,15 +93,15 @@ TEST(clsDate, ComparisonsRunFromFirstToSecond) {
     const clsDate d;
     EXPECT_EQ(d.dateComp(Variant(u"1/2/2015"), Variant(u"1/1/2015")), -1);
     EXPECT_EQ(d.dateComp(Variant(u"1/2/2015 11:00 PM"), Variant(Date(42006.01))), 0);
-    EXPECT_EQ(d.dateComp(Variant(), Variant(u"1/2/2015")), 1);       // Empty is 30 December 1899
-    EXPECT_EQ(d.dateComp(Variant(u"abc"), Variant(u"1/2/2015")), 1);  // no date: counted as zero
-    EXPECT_EQ(d.dateComp(Variant(0.5), Variant(Date(-1.0))), -1);      // a time alone has no date
+    EXPECT_EQ(d.dateComp(Variant(), Variant(u"1/2/2015")), 1);                          // Empty is 30 December 1899
+    EXPECT_EQ(d.dateComp(Variant(u"abc"), Variant(u"1/2/2015")), 1);                    // no date: counted as zero
+    EXPECT_EQ(d.dateComp(Variant(0.5), Variant(Date(-1.0))), -1);                       // a time alone has no date
     EXPECT_EQ(d.dateComp(Variant(std::make_shared<int>(1)), Variant(u"1/2/2015")), 0);  // conversion failed
     EXPECT_EQ(d.timeComp(Variant(u"23:00:00"), Variant(u"01:00:00")), -1);
     EXPECT_EQ(d.timeComp(Variant(u"01:00:00"), Variant(u"23:00:00")), 1);
     EXPECT_EQ(d.timeComp(Variant(u"1/2/2015 1:00 AM"), Variant(u"01:00:00")), 0);
     EXPECT_EQ(d.timeDiff(Variant(u"1/2/2015"), Variant(u"01:00:00")), 3600);  // date only: midnight
-    EXPECT_EQ(d.timeDiff(Variant(u"abc"), Variant(u"01:00:00")), 3600);  // no time: counted as zero
+    EXPECT_EQ(d.timeDiff(Variant(u"abc"), Variant(u"01:00:00")), 3600);       // no time: counted as zero
     EXPECT_EQ(d.timeToNumber(Variant(u"13:45:07")), 134507);
     EXPECT_EQ(d.timeToNumber(Variant(Date(42006.0))), 0);
     EXPECT_EQ(d.timeToNumber(Variant(u"abc")), 0);
@@ -192,19 +194,19 @@ TEST(clsDate, FirstAndLastDays) {
     ClockScope fixed(Date(42018.4));  // Wednesday 14 January 2015, 09:36
     const clsDate d;
     EXPECT_DOUBLE_EQ(d.getFirstDayOfMonth(Date(42017.75)).serial, 42005.75);  // the time is kept
-    EXPECT_EQ(d.getLastDayOfMonth(Date(42035.0)).serial, 42035.0);           // by way of 28 February
-    EXPECT_EQ(d.getLastDayOfMonth(Date(42400.0)).serial, 42400.0);           // 31 January 2016
+    EXPECT_EQ(d.getLastDayOfMonth(Date(42035.0)).serial, 42035.0);            // by way of 28 February
+    EXPECT_EQ(d.getLastDayOfMonth(Date(42400.0)).serial, 42400.0);            // 31 January 2016
     EXPECT_EQ(d.getLastDayOfMonth(day(2016, 2, 10)).serial, day(2016, 2, 29).serial);
-    EXPECT_EQ(d.getLastDayOfWeek(Date(42021.0)).serial, 42021.0);            // a Saturday stays
-    EXPECT_EQ(d.getLastDayOfWeek(Date(42022.0)).serial, 42028.0);            // a Sunday: six days on
+    EXPECT_EQ(d.getLastDayOfWeek(Date(42021.0)).serial, 42021.0);                 // a Saturday stays
+    EXPECT_EQ(d.getLastDayOfWeek(Date(42022.0)).serial, 42028.0);                 // a Sunday: six days on
     EXPECT_EQ(d.getFirstDayOfYear(Date(1000.0)).serial, day(2015, 1, 1).serial);  // the argument is ignored
     EXPECT_EQ(d.getLastDayOfYear(Date(1000.0)).serial, day(2015, 12, 31).serial);
     EXPECT_EQ(d.getFirstDayOfWeekEnum(), vbSunday);
-    EXPECT_DOUBLE_EQ(d.getFirstDayOfWeek(Date(-1.25)).serial, -6.25);        // Sunday 24 December 1899
+    EXPECT_DOUBLE_EQ(d.getFirstDayOfWeek(Date(-1.25)).serial, -6.25);  // Sunday 24 December 1899
     RegionalScope monday(mondayFirst());
     EXPECT_EQ(d.getFirstDayOfWeekEnum(), vbMonday);
     EXPECT_EQ(d.getFirstDayOfWeek(Date(42022.0)).serial, 42016.0);
-    EXPECT_EQ(d.getLastDayOfWeek(Date(42022.0)).serial, 42028.0);            // still Sunday-based
+    EXPECT_EQ(d.getLastDayOfWeek(Date(42022.0)).serial, 42028.0);  // still Sunday-based
 }
 
 struct RangeRow {

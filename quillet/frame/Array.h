@@ -28,7 +28,7 @@ public:
     using value_type = T;
 
     // construction
-    Array() = default;                     // unallocated
+    Array() = default;  // unallocated
     Array(Long lower, Long upper) { redim(lower, upper); }
     // An allocated array with the given elements from subscript `lower`.
     static Array from(Long lower, std::initializer_list<T> items) {

@@ -131,7 +131,8 @@ Date dateSerial(long long year, long long month, long long day) {
 
 Date timeSerial(long long hour, long long minute, long long second) {
     constexpr long long LIMIT = 100000000;
-    if (std::llabs(hour) > LIMIT || std::llabs(minute) > LIMIT || std::llabs(second) > LIMIT) throw Failure(errOverflow);
+    if (std::llabs(hour) > LIMIT || std::llabs(minute) > LIMIT || std::llabs(second) > LIMIT)
+        throw Failure(errOverflow);
     const long long total = hour * 3600 + minute * 60 + second;
     const long long day = total >= 0 ? total / 86400 : -((-total + 86399) / 86400);
     const double fraction = static_cast<double>(total - day * 86400) / 86400.0;

@@ -27,9 +27,9 @@ TEST(Collection, KeysIgnoreCaseAreUniqueAndPositionsAreOneBased) {
     Collection c;
     c.Add(u"a", u"KeyA");
     c.Add(u"c", u"keyC");
-    c.Add(u"b", Variant::missing(), u"KEYC");           // before by key
+    c.Add(u"b", Variant::missing(), u"KEYC");                // before by key
     c.Add(u"d", Variant::missing(), Variant::missing(), 3);  // after by position
-    c.Add(u"0", Variant::missing(), 1);                  // before the first
+    c.Add(u"0", Variant::missing(), 1);                      // before the first
     EXPECT_EQ(order(c), u"0abcd");
     EXPECT_EQ(toText(c.Item(u"keya")), u"a");
     EXPECT_EQ(toText(c.Item(2.5)), u"a");  // positions round half-to-even

@@ -79,10 +79,8 @@ bool startsWithNoCase(StringView text, std::size_t at, std::u16string_view lower
 
 void addLiteral(Tokens& tokens, StringView text) {
     if (text.empty()) return;
-    if (!tokens.empty() && tokens.back().kind == Tok::Literal)
-        tokens.back().text.append(text);
-    else
-        tokens.push_back({Tok::Literal, String(text), {}});
+    if (!tokens.empty() && tokens.back().kind == Tok::Literal) tokens.back().text.append(text);
+    else tokens.push_back({Tok::Literal, String(text), {}});
 }
 
 void add(Tokens& tokens, Tok kind) { tokens.push_back({kind, {}, {}}); }
@@ -146,63 +144,58 @@ Tokens tokenizeHost(StringView f) {
         const std::size_t run = runLength(f, i, true);
         std::size_t used = 1;
         switch (lc) {
-        case u'd': {
-            static constexpr Tok kinds[] = {Tok::Day, Tok::Day2, Tok::DayAbbr, Tok::DayName, Tok::ShortDate, Tok::LongDate};
-            used = std::min<std::size_t>(run, 6);
-            add(tokens, kinds[used - 1]);
-            break;
-        }
-        case u'm': {
-            static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
-            used = std::min<std::size_t>(run, 4);
-            Tok kind = kinds[used - 1];
-            if (used <= 2) {
-                // Minutes when an hour stands straight before, a colon allowed between.
-                std::size_t k = tokens.size();
-                while (k > 0 && tokens[k - 1].kind == Tok::TimeSep) --k;
-                if (k > 0 && (tokens[k - 1].kind == Tok::Hour24 || tokens[k - 1].kind == Tok::Hour24_2))
-                    kind = used == 1 ? Tok::Minute : Tok::Minute2;
+            case u'd': {
+                static constexpr Tok kinds[] = {Tok::Day,     Tok::Day2,      Tok::DayAbbr,
+                                                Tok::DayName, Tok::ShortDate, Tok::LongDate};
+                used = std::min<std::size_t>(run, 6);
+                add(tokens, kinds[used - 1]);
+                break;
             }
-            add(tokens, kind);
-            break;
-        }
-        case u'y':
-            used = run >= 4 ? 4 : run >= 2 ? 2 : 1;
-            add(tokens, used == 4 ? Tok::Year4 : used == 2 ? Tok::Year2 : Tok::DayOfYear);
-            break;
-        case u'h':
-            used = std::min<std::size_t>(run, 2);
-            add(tokens, used == 1 ? Tok::Hour24 : Tok::Hour24_2);
-            break;
-        case u'n':
-            used = std::min<std::size_t>(run, 2);
-            add(tokens, used == 1 ? Tok::Minute : Tok::Minute2);
-            break;
-        case u's':
-            used = std::min<std::size_t>(run, 2);
-            add(tokens, used == 1 ? Tok::Second : Tok::Second2);
-            break;
-        case u'w':
-            used = std::min<std::size_t>(run, 2);
-            add(tokens, used == 1 ? Tok::WeekDay : Tok::WeekOfYear);
-            break;
-        case u'q':
-            add(tokens, Tok::Quarter);
-            break;
-        case u'c':
-            add(tokens, Tok::GeneralDate);
-            break;
-        case u't':
-            if (run >= 5) {
-                used = 5;
-                add(tokens, Tok::LongTime);
-            } else {
-                addLiteral(tokens, f.substr(i, 1));
+            case u'm': {
+                static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
+                used = std::min<std::size_t>(run, 4);
+                Tok kind = kinds[used - 1];
+                if (used <= 2) {
+                    // Minutes when an hour stands straight before, a colon allowed between.
+                    std::size_t k = tokens.size();
+                    while (k > 0 && tokens[k - 1].kind == Tok::TimeSep) --k;
+                    if (k > 0 && (tokens[k - 1].kind == Tok::Hour24 || tokens[k - 1].kind == Tok::Hour24_2))
+                        kind = used == 1 ? Tok::Minute : Tok::Minute2;
+                }
+                add(tokens, kind);
+                break;
             }
-            break;
-        default:
-            addLiteral(tokens, f.substr(i, 1));
-            break;
+            case u'y':
+                used = run >= 4 ? 4 : run >= 2 ? 2 : 1;
+                add(tokens, used == 4 ? Tok::Year4 : used == 2 ? Tok::Year2 : Tok::DayOfYear);
+                break;
+            case u'h':
+                used = std::min<std::size_t>(run, 2);
+                add(tokens, used == 1 ? Tok::Hour24 : Tok::Hour24_2);
+                break;
+            case u'n':
+                used = std::min<std::size_t>(run, 2);
+                add(tokens, used == 1 ? Tok::Minute : Tok::Minute2);
+                break;
+            case u's':
+                used = std::min<std::size_t>(run, 2);
+                add(tokens, used == 1 ? Tok::Second : Tok::Second2);
+                break;
+            case u'w':
+                used = std::min<std::size_t>(run, 2);
+                add(tokens, used == 1 ? Tok::WeekDay : Tok::WeekOfYear);
+                break;
+            case u'q': add(tokens, Tok::Quarter); break;
+            case u'c': add(tokens, Tok::GeneralDate); break;
+            case u't':
+                if (run >= 5) {
+                    used = 5;
+                    add(tokens, Tok::LongTime);
+                } else {
+                    addLiteral(tokens, f.substr(i, 1));
+                }
+                break;
+            default: addLiteral(tokens, f.substr(i, 1)); break;
         }
         i += used;
     }
@@ -230,24 +223,24 @@ Tokens tokenizePicture(StringView f) {
         }
         const std::size_t run = runLength(f, i, false);
         switch (c) {
-        case u'd': {
-            static constexpr Tok kinds[] = {Tok::Day, Tok::Day2, Tok::DayAbbr, Tok::DayName};
-            add(tokens, kinds[std::min<std::size_t>(run, 4) - 1]);
-            break;
-        }
-        case u'M': {
-            static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
-            add(tokens, kinds[std::min<std::size_t>(run, 4) - 1]);
-            break;
-        }
-        case u'y': add(tokens, run <= 2 ? Tok::Year2 : Tok::Year4); break;
-        case u'h': add(tokens, run == 1 ? Tok::Hour12 : Tok::Hour12_2); break;
-        case u'H': add(tokens, run == 1 ? Tok::Hour24 : Tok::Hour24_2); break;
-        case u'm': add(tokens, run == 1 ? Tok::Minute : Tok::Minute2); break;
-        case u's': add(tokens, run == 1 ? Tok::Second : Tok::Second2); break;
-        case u't': add(tokens, run == 1 ? Tok::AmPmProfileFirst : Tok::AmPmProfile); break;
-        case u'g': break;  // era: the library's calendars have one
-        default: addLiteral(tokens, f.substr(i, run)); break;
+            case u'd': {
+                static constexpr Tok kinds[] = {Tok::Day, Tok::Day2, Tok::DayAbbr, Tok::DayName};
+                add(tokens, kinds[std::min<std::size_t>(run, 4) - 1]);
+                break;
+            }
+            case u'M': {
+                static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
+                add(tokens, kinds[std::min<std::size_t>(run, 4) - 1]);
+                break;
+            }
+            case u'y': add(tokens, run <= 2 ? Tok::Year2 : Tok::Year4); break;
+            case u'h': add(tokens, run == 1 ? Tok::Hour12 : Tok::Hour12_2); break;
+            case u'H': add(tokens, run == 1 ? Tok::Hour24 : Tok::Hour24_2); break;
+            case u'm': add(tokens, run == 1 ? Tok::Minute : Tok::Minute2); break;
+            case u's': add(tokens, run == 1 ? Tok::Second : Tok::Second2); break;
+            case u't': add(tokens, run == 1 ? Tok::AmPmProfileFirst : Tok::AmPmProfile); break;
+            case u'g': break;  // era: the library's calendars have one
+            default: addLiteral(tokens, f.substr(i, run)); break;
         }
         i += run;
     }
@@ -279,7 +272,8 @@ void appendNumber(String& out, long long value, int minDigits) {
     char16_t buffer[24];
     int n = 0;
     const bool negative = value < 0;
-    unsigned long long v = negative ? 0ULL - static_cast<unsigned long long>(value) : static_cast<unsigned long long>(value);
+    unsigned long long v =
+        negative ? 0ULL - static_cast<unsigned long long>(value) : static_cast<unsigned long long>(value);
     do {
         buffer[n++] = static_cast<char16_t>(u'0' + v % 10);
         v /= 10;
@@ -348,42 +342,44 @@ void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firs
     const int hour12 = p.hour % 12 == 0 ? 12 : p.hour % 12;
     for (const Token& t : tokens) {
         switch (t.kind) {
-        case Tok::Literal: out.append(t.text); break;
-        case Tok::Day: appendNumber(out, p.day, 1); break;
-        case Tok::Day2: appendNumber(out, p.day, 2); break;
-        case Tok::DayAbbr: out.append(rs.dayAbbreviations[sundayWeekday(m) - 1]); break;
-        case Tok::DayName: out.append(rs.dayNames[sundayWeekday(m) - 1]); break;
-        case Tok::ShortDate: renderPattern(out, rs.shortDatePattern, m); break;
-        case Tok::LongDate: renderPattern(out, rs.longDatePattern, m); break;
-        case Tok::GeneralDate: renderGeneral(out, m); break;
-        case Tok::LongTime: renderPattern(out, rs.longTimePattern, m); break;
-        case Tok::Month: appendNumber(out, p.month, 1); break;
-        case Tok::Month2: appendNumber(out, p.month, 2); break;
-        case Tok::MonthAbbr: out.append(rs.monthAbbreviations[p.month - 1]); break;
-        case Tok::MonthName: out.append(rs.monthNames[p.month - 1]); break;
-        case Tok::DayOfYear: appendNumber(out, calendar::dayOfYear(Date(static_cast<double>(m.day))), 1); break;
-        case Tok::Year2: appendNumber(out, p.year % 100, 2); break;
-        case Tok::Year4: appendNumber(out, p.year, 1); break;
-        case Tok::Hour24: appendNumber(out, p.hour, 1); break;
-        case Tok::Hour24_2: appendNumber(out, p.hour, 2); break;
-        case Tok::Hour12: appendNumber(out, hour12, 1); break;
-        case Tok::Hour12_2: appendNumber(out, hour12, 2); break;
-        case Tok::Minute: appendNumber(out, p.minute, 1); break;
-        case Tok::Minute2: appendNumber(out, p.minute, 2); break;
-        case Tok::Second: appendNumber(out, p.second, 1); break;
-        case Tok::Second2: appendNumber(out, p.second, 2); break;
-        case Tok::AmPmWritten: out.append(morning ? t.text : t.text2); break;
-        case Tok::AmPmProfile: out.append(morning ? rs.amMark : rs.pmMark); break;
-        case Tok::AmPmProfileFirst: {
-            const String& mark = morning ? rs.amMark : rs.pmMark;
-            if (!mark.empty()) out.push_back(mark.front());
-            break;
-        }
-        case Tok::DateSep: out.append(rs.dateSeparator); break;
-        case Tok::TimeSep: out.append(rs.timeSeparator); break;
-        case Tok::WeekDay: appendNumber(out, calendar::weekday(Date(static_cast<double>(m.day)), firstDay), 1); break;
-        case Tok::WeekOfYear: appendNumber(out, weekNumber(m, firstDay, firstWeek), 1); break;
-        case Tok::Quarter: appendNumber(out, (p.month - 1) / 3 + 1, 1); break;
+            case Tok::Literal: out.append(t.text); break;
+            case Tok::Day: appendNumber(out, p.day, 1); break;
+            case Tok::Day2: appendNumber(out, p.day, 2); break;
+            case Tok::DayAbbr: out.append(rs.dayAbbreviations[sundayWeekday(m) - 1]); break;
+            case Tok::DayName: out.append(rs.dayNames[sundayWeekday(m) - 1]); break;
+            case Tok::ShortDate: renderPattern(out, rs.shortDatePattern, m); break;
+            case Tok::LongDate: renderPattern(out, rs.longDatePattern, m); break;
+            case Tok::GeneralDate: renderGeneral(out, m); break;
+            case Tok::LongTime: renderPattern(out, rs.longTimePattern, m); break;
+            case Tok::Month: appendNumber(out, p.month, 1); break;
+            case Tok::Month2: appendNumber(out, p.month, 2); break;
+            case Tok::MonthAbbr: out.append(rs.monthAbbreviations[p.month - 1]); break;
+            case Tok::MonthName: out.append(rs.monthNames[p.month - 1]); break;
+            case Tok::DayOfYear: appendNumber(out, calendar::dayOfYear(Date(static_cast<double>(m.day))), 1); break;
+            case Tok::Year2: appendNumber(out, p.year % 100, 2); break;
+            case Tok::Year4: appendNumber(out, p.year, 1); break;
+            case Tok::Hour24: appendNumber(out, p.hour, 1); break;
+            case Tok::Hour24_2: appendNumber(out, p.hour, 2); break;
+            case Tok::Hour12: appendNumber(out, hour12, 1); break;
+            case Tok::Hour12_2: appendNumber(out, hour12, 2); break;
+            case Tok::Minute: appendNumber(out, p.minute, 1); break;
+            case Tok::Minute2: appendNumber(out, p.minute, 2); break;
+            case Tok::Second: appendNumber(out, p.second, 1); break;
+            case Tok::Second2: appendNumber(out, p.second, 2); break;
+            case Tok::AmPmWritten: out.append(morning ? t.text : t.text2); break;
+            case Tok::AmPmProfile: out.append(morning ? rs.amMark : rs.pmMark); break;
+            case Tok::AmPmProfileFirst: {
+                const String& mark = morning ? rs.amMark : rs.pmMark;
+                if (!mark.empty()) out.push_back(mark.front());
+                break;
+            }
+            case Tok::DateSep: out.append(rs.dateSeparator); break;
+            case Tok::TimeSep: out.append(rs.timeSeparator); break;
+            case Tok::WeekDay:
+                appendNumber(out, calendar::weekday(Date(static_cast<double>(m.day)), firstDay), 1);
+                break;
+            case Tok::WeekOfYear: appendNumber(out, weekNumber(m, firstDay, firstWeek), 1); break;
+            case Tok::Quarter: appendNumber(out, (p.month - 1) / 3 + 1, 1); break;
         }
     }
 }
@@ -447,7 +443,8 @@ std::optional<std::vector<Item>> scan(StringView text, const RegionalSettings& r
             ++i;
         } else {
             const std::size_t start = i;
-            while (i < text.size() && !isDigit(text[i]) && !isTimeSeparator(text[i], rs) && !isDateSeparator(text[i], rs))
+            while (i < text.size() && !isDigit(text[i]) && !isTimeSeparator(text[i], rs) &&
+                   !isDateSeparator(text[i], rs))
                 ++i;
             Item item{Item::Word};
             item.word = foldCase(text.substr(start, i - start));
@@ -509,49 +506,51 @@ std::optional<Date> readText(StringView text) {
     for (std::size_t i = 0; i < items.size(); ++i) {
         const Item& it = items[i];
         switch (it.kind) {
-        case Item::Number: {
-            if (i + 1 < items.size() && items[i + 1].kind == Item::TimeSep) {
-                if (hasTime || i + 2 >= items.size() || items[i + 2].kind != Item::Number) return std::nullopt;
-                hasTime = true;
-                hour = it.value;
-                minute = items[i + 2].value;
-                i += 2;
-                if (i + 2 < items.size() && items[i + 1].kind == Item::TimeSep && items[i + 2].kind == Item::Number) {
-                    second = items[i + 2].value;
+            case Item::Number: {
+                if (i + 1 < items.size() && items[i + 1].kind == Item::TimeSep) {
+                    if (hasTime || i + 2 >= items.size() || items[i + 2].kind != Item::Number) return std::nullopt;
+                    hasTime = true;
+                    hour = it.value;
+                    minute = items[i + 2].value;
                     i += 2;
+                    if (i + 2 < items.size() && items[i + 1].kind == Item::TimeSep &&
+                        items[i + 2].kind == Item::Number) {
+                        second = items[i + 2].value;
+                        i += 2;
+                    }
+                    break;
+                }
+                // A lone hour with a mark: "3 PM".
+                std::size_t next = i + 1;
+                if (next < items.size() && items[next].kind == Item::Sep && next + 1 < items.size()) ++next;
+                if (next < items.size() && items[next].kind == Item::Word && markOf(items[next].word, rs) != 0 &&
+                    !hasTime) {
+                    hasTime = true;
+                    hour = it.value;
+                    break;
+                }
+                if (numbers.size() == 3) return std::nullopt;
+                numbers.push_back(&it);
+                break;
+            }
+            case Item::Word: {
+                if (const int month = monthOfName(it.word, rs); month != 0) {
+                    if (monthName != 0) return std::nullopt;
+                    monthName = month;
+                } else if (const int m = markOf(it.word, rs); m != 0) {
+                    if (mark != 0) return std::nullopt;
+                    mark = m;
+                } else if (isDayName(it.word, rs)) {
+                    // weekday names are read over
+                } else if (it.word == u"t" && numbers.size() == 3 && numbers.front()->digits == 4) {
+                    // the T between an ISO date and its time
+                } else {
+                    return std::nullopt;
                 }
                 break;
             }
-            // A lone hour with a mark: "3 PM".
-            std::size_t next = i + 1;
-            if (next < items.size() && items[next].kind == Item::Sep && next + 1 < items.size()) ++next;
-            if (next < items.size() && items[next].kind == Item::Word && markOf(items[next].word, rs) != 0 && !hasTime) {
-                hasTime = true;
-                hour = it.value;
-                break;
-            }
-            if (numbers.size() == 3) return std::nullopt;
-            numbers.push_back(&it);
-            break;
-        }
-        case Item::Word: {
-            if (const int month = monthOfName(it.word, rs); month != 0) {
-                if (monthName != 0) return std::nullopt;
-                monthName = month;
-            } else if (const int m = markOf(it.word, rs); m != 0) {
-                if (mark != 0) return std::nullopt;
-                mark = m;
-            } else if (isDayName(it.word, rs)) {
-                // weekday names are read over
-            } else if (it.word == u"t" && numbers.size() == 3 && numbers.front()->digits == 4) {
-                // the T between an ISO date and its time
-            } else {
-                return std::nullopt;
-            }
-            break;
-        }
-        case Item::TimeSep: return std::nullopt;
-        case Item::Sep: break;
+            case Item::TimeSep: return std::nullopt;
+            case Item::Sep: break;
         }
     }
 
@@ -657,12 +656,12 @@ String formatDate(Date value, VbDateTimeFormat named) {
     const RegionalSettings& rs = RegionalSettings::current();
     String out;
     switch (named) {
-    case vbLongDate: renderPattern(out, rs.longDatePattern, m); break;
-    case vbShortDate: renderPattern(out, rs.shortDatePattern, m); break;
-    case vbLongTime: renderPattern(out, rs.longTimePattern, m); break;
-    case vbShortTime: renderPattern(out, rs.shortTimePattern, m); break;
-    case vbGeneralDate: renderGeneral(out, m); break;
-    default: throw Failure(errInvalidCall);
+        case vbLongDate: renderPattern(out, rs.longDatePattern, m); break;
+        case vbShortDate: renderPattern(out, rs.shortDatePattern, m); break;
+        case vbLongTime: renderPattern(out, rs.longTimePattern, m); break;
+        case vbShortTime: renderPattern(out, rs.shortTimePattern, m); break;
+        case vbGeneralDate: renderGeneral(out, m); break;
+        default: throw Failure(errInvalidCall);
     }
     return out;
 }

@@ -59,23 +59,33 @@ TEST(DateText, FormatItemsUnderUsEnglish) {
     RegionalScope us(RegionalSettings::usEnglish());
     const Date d = at(2015, 1, 2, 18, 5, 9);
     const FormatRow rows[] = {
-        {"day", d, u"d", u"2"}, {"day two digits", d, u"dd", u"02"},
-        {"weekday abbreviated", d, u"ddd", u"Fri"}, {"weekday", d, u"dddd", u"Friday"},
-        {"month", d, u"m", u"1"}, {"month two digits", d, u"mm", u"01"},
-        {"month abbreviated", d, u"mmm", u"Jan"}, {"month name", d, u"mmmm", u"January"},
-        {"day of year", d, u"y", u"2"}, {"two-digit year", d, u"yy", u"15"}, {"year", d, u"yyyy", u"2015"},
-        {"24-hour clock without a mark", d, u"h", u"18"}, {"time", d, u"hh:nn:ss", u"18:05:09"},
+        {"day", d, u"d", u"2"},
+        {"day two digits", d, u"dd", u"02"},
+        {"weekday abbreviated", d, u"ddd", u"Fri"},
+        {"weekday", d, u"dddd", u"Friday"},
+        {"month", d, u"m", u"1"},
+        {"month two digits", d, u"mm", u"01"},
+        {"month abbreviated", d, u"mmm", u"Jan"},
+        {"month name", d, u"mmmm", u"January"},
+        {"day of year", d, u"y", u"2"},
+        {"two-digit year", d, u"yy", u"15"},
+        {"year", d, u"yyyy", u"2015"},
+        {"24-hour clock without a mark", d, u"h", u"18"},
+        {"time", d, u"hh:nn:ss", u"18:05:09"},
         {"no leading zeros", d, u"h:n:s", u"18:5:9"},
-        {"mm after hh:", d, u"hh:mm", u"18:05"}, {"m after h", d, u"hm", u"185"},
+        {"mm after hh:", d, u"hh:mm", u"18:05"},
+        {"m after h", d, u"hm", u"185"},
         {"mm before hh is the month", d, u"mm hh", u"01 18"},
         {"a blank breaks the adjacency", d, u"hh mm", u"18 01"},
         {"fixed host form", d, u"mm/dd/yyyy hh:mm:ss", u"01/02/2015 18:05:09"},
         {"ISO form", d, u"yyyy-mm-dd hh:mm:ss", u"2015-01-02 18:05:09"},
         {"letters in any case", d, u"DDDD, MMMM dd, YYYY", u"Friday, January 02, 2015"},
         {"mixed-case constant", d, u"Hh:Nn:Ss AM/PM", u"06:05:09 PM"},
-        {"AM/PM upper", d, u"h:nn AM/PM", u"6:05 PM"}, {"am/pm lower", d, u"h:nn am/pm", u"6:05 pm"},
+        {"AM/PM upper", d, u"h:nn AM/PM", u"6:05 PM"},
+        {"am/pm lower", d, u"h:nn am/pm", u"6:05 pm"},
         {"mark case as written", d, u"h Am/pM", u"6 pM"},
-        {"A/P", d, u"h A/P", u"6 P"}, {"a/p", d, u"h a/p", u"6 p"},
+        {"A/P", d, u"h A/P", u"6 P"},
+        {"a/p", d, u"h a/p", u"6 p"},
         {"profile marks", d, u"hh:nn ampm", u"06:05 PM"},
         {"midnight on the 12-hour clock", at(2015, 1, 2), u"h:nn AM/PM", u"12:00 AM"},
         {"noon on the 12-hour clock", at(2015, 1, 2, 12), u"h:nn AM/PM", u"12:00 PM"},
@@ -219,7 +229,8 @@ TEST(DateText, ReaderUnderDayFirst) {
 TEST(DateText, RoundTripsFormatThenRead) {
     for (const RegionalSettings& profile : {RegionalSettings::usEnglish(), dayFirst()}) {
         RegionalScope scope(profile);
-        const char16_t* format = profile.dateOrder == DateOrder::DayMonthYear ? u"dd/mm/yyyy hh:nn:ss" : u"mm/dd/yyyy hh:nn:ss";
+        const char16_t* format =
+            profile.dateOrder == DateOrder::DayMonthYear ? u"dd/mm/yyyy hh:nn:ss" : u"mm/dd/yyyy hh:nn:ss";
         for (double s = -657434.0; s < 2958465.0; s += 7919.123) {
             const Date d(s);
             const String text = formatDate(d, format);

@@ -26,15 +26,15 @@
 namespace quillet {
 
 // The classic error numbers that a Failure carries.
-inline constexpr Long errInvalidCall = 5;      // invalid procedure call or argument
+inline constexpr Long errInvalidCall = 5;  // invalid procedure call or argument
 inline constexpr Long errOverflow = 6;
-inline constexpr Long errSubscript = 9;        // subscript out of range
+inline constexpr Long errSubscript = 9;  // subscript out of range
 inline constexpr Long errDivisionByZero = 11;
 inline constexpr Long errTypeMismatch = 13;
-inline constexpr Long errObjectNotSet = 91;    // a call on Nothing
-inline constexpr Long errInvalidNull = 94;     // Null where a value is needed
-inline constexpr Long errDuplicateKey = 457;   // collection key already in use
-inline constexpr Long errPlatform = 5;         // a refusing platform or host call
+inline constexpr Long errObjectNotSet = 91;   // a call on Nothing
+inline constexpr Long errInvalidNull = 94;    // Null where a value is needed
+inline constexpr Long errDuplicateKey = 457;  // collection key already in use
+inline constexpr Long errPlatform = 5;        // a refusing platform or host call
 
 // Failure - thrown by the frame's checked operations. number() is the classic
 // error number; what() its usual English description.
@@ -60,8 +60,7 @@ template <class Statement>
 inline void attempt(Statement&& statement) noexcept {
     try {
         std::forward<Statement>(statement)();
-    } catch (...) {
-    }
+    } catch (...) {}
 }
 
 // attemptTest - the test of a conditional under continue-on-failure. A test
@@ -79,8 +78,8 @@ template <class Condition>
 // stopOnFailure - a member body that ends at its first failure with
 // `failureResult`. The body returns the member's normal result.
 template <class Result, class Body>
-[[nodiscard]] inline Result stopOnFailure(Result failureResult, Body&& body) noexcept(
-    std::is_nothrow_move_constructible_v<Result>) {
+[[nodiscard]] inline Result stopOnFailure(Result failureResult,
+                                          Body&& body) noexcept(std::is_nothrow_move_constructible_v<Result>) {
     try {
         return std::forward<Body>(body)();
     } catch (...) {
@@ -93,8 +92,7 @@ template <class Body>
 inline void stopOnFailure(Body&& body) noexcept {
     try {
         std::forward<Body>(body)();
-    } catch (...) {
-    }
+    } catch (...) {}
 }
 
 // deref - a call on an object reference; Nothing fails with errObjectNotSet.

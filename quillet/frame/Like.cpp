@@ -13,8 +13,8 @@ enum class Op : unsigned char { Literal, AnyOne, Digit, Set, NotSet, Star };
 
 struct Token {
     Op op;
-    char16_t ch = 0;             // Literal
-    std::uint32_t first = 0;     // Set/NotSet: ranges [first, first + count)
+    char16_t ch = 0;          // Literal
+    std::uint32_t first = 0;  // Set/NotSet: ranges [first, first + count)
     std::uint32_t count = 0;
 };
 

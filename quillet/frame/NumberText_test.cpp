@@ -65,17 +65,49 @@ TEST(NumberText, NumericPrefixRows) {
         double expected;
     };
     const Row rows[] = {
-        {u"12.5kg", 12.5},   {u"1 000", 1000},     {u"abc", 0},         {u"1,5", 1},
-        {u"\t1\n2 3", 123},  {u"-  5", -5},        {u"+7", 7},          {u".5", 0.5},
-        {u"-.5x", -0.5},     {u"5.", 5},           {u"1e3", 1000},      {u"1D2", 100},
-        {u"1d-2", 0.01},     {u"1 e 3", 1000},     {u"1e", 1},          {u"1e+", 1},
-        {u"1e-x", 1},        {u"1.2.3", 1.2},      {u"", 0},            {u"   ", 0},
-        {u"-", 0},           {u".", 0},            {u"+-5", 0},         {u"&HFF", 255},
-        {u"&hff", 255},      {u"&HFFFF", -1},      {u"&H8000", -32768}, {u"&H10000", 65536},
-        {u"&HFFFFFFFF", -1}, {u"&H7FFFFFFF", 2147483647},                {u"&H123456789", 0},
-        {u"&O17", 15},       {u"&O19", 1},         {u"&H", 0},          {u"&", 0},
-        {u"  &H F", 15},     {u"1e400", 0},        {u"1e-400", 0},      {u"1e0000000000000000000005", 1e5},
-        {u"\r5", 0},         {u"\x0665", 0},       {u"0.1", 0.1},       {u"1234567890123456789", 1234567890123456789.0},
+        {u"12.5kg", 12.5},
+        {u"1 000", 1000},
+        {u"abc", 0},
+        {u"1,5", 1},
+        {u"\t1\n2 3", 123},
+        {u"-  5", -5},
+        {u"+7", 7},
+        {u".5", 0.5},
+        {u"-.5x", -0.5},
+        {u"5.", 5},
+        {u"1e3", 1000},
+        {u"1D2", 100},
+        {u"1d-2", 0.01},
+        {u"1 e 3", 1000},
+        {u"1e", 1},
+        {u"1e+", 1},
+        {u"1e-x", 1},
+        {u"1.2.3", 1.2},
+        {u"", 0},
+        {u"   ", 0},
+        {u"-", 0},
+        {u".", 0},
+        {u"+-5", 0},
+        {u"&HFF", 255},
+        {u"&hff", 255},
+        {u"&HFFFF", -1},
+        {u"&H8000", -32768},
+        {u"&H10000", 65536},
+        {u"&HFFFFFFFF", -1},
+        {u"&H7FFFFFFF", 2147483647},
+        {u"&H123456789", 0},
+        {u"&O17", 15},
+        {u"&O19", 1},
+        {u"&H", 0},
+        {u"&", 0},
+        {u"  &H F", 15},
+        {u"1e400", 0},
+        {u"1e-400", 0},
+        {u"1e0000000000000000000005", 1e5},
+        {u"\r5", 0},
+        {u"\x0665", 0},
+        {u"0.1", 0.1},
+        {u"1234567890123456789", 1234567890123456789.0},
         {u"1e99999999999999999999", 0},
     };
     for (const Row& r : rows) EXPECT_EQ(numericPrefix(r.text), r.expected) << toUtf8(r.text);
@@ -100,8 +132,8 @@ TEST(NumberText, StrictConversion) {
     EXPECT_EQ(parseNumber(u"0." + String(400, u'0') + u"1"), 0.0);
     EXPECT_EQ(parseNumber(u"1e0000000000000000000000000000000000000000000000000000000000000000000005"), 1e5);
 
-    for (const char16_t* bad : {u"", u"  ", u"2.5kg", u"1 000", u"1,5", u"1e", u"e5", u"-", u"&H", u"&HG", u"1.2.3",
-                                u"&", u"12 "}) {
+    for (const char16_t* bad :
+         {u"", u"  ", u"2.5kg", u"1 000", u"1,5", u"1e", u"e5", u"-", u"&H", u"&HG", u"1.2.3", u"&", u"12 "}) {
         if (StringView(bad) == u"12 ") {
             EXPECT_EQ(parseNumber(bad), 12);  // trailing blanks are allowed
             continue;
@@ -138,8 +170,14 @@ TEST(NumberText, DecimalCommaProfileIsAsymmetric) {
 }
 
 TEST(NumberText, RoundTripsUnderEachProfile) {
-    const double values[] = {0.1, -123.456, 1.0 / 7.0, 6.02214076e23, 1.602176634e-19, 9007199254740993.0,
-                             1.7976931348623e308, std::numeric_limits<double>::denorm_min()};
+    const double values[] = {0.1,
+                             -123.456,
+                             1.0 / 7.0,
+                             6.02214076e23,
+                             1.602176634e-19,
+                             9007199254740993.0,
+                             1.7976931348623e308,
+                             std::numeric_limits<double>::denorm_min()};
     for (const char* locale : {"en_US", "de_DE", "fr_FR"}) {
         RegionalScope scope(RegionalSettings::fromLocale(locale));
         for (double v : values) {

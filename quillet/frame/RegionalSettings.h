@@ -28,9 +28,9 @@ namespace quillet {
 enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay };
 
 struct RegionalSettings {
-    String localeName = u"en_US";      // the ICU locale the profile came from
+    String localeName = u"en_US";  // the ICU locale the profile came from
     String decimalSeparator = u".";
-    String thousandSeparator = u",";   // the grouping mark; number text never writes it
+    String thousandSeparator = u",";  // the grouping mark; number text never writes it
     String dateSeparator = u"/";
     String timeSeparator = u":";
     String shortDatePattern = u"M/d/yyyy";
@@ -44,10 +44,9 @@ struct RegionalSettings {
     std::array<String, 12> monthAbbreviations{u"Jan", u"Feb", u"Mar", u"Apr", u"May", u"Jun",
                                               u"Jul", u"Aug", u"Sep", u"Oct", u"Nov", u"Dec"};
     // Indexed from Sunday (0) to Saturday (6), whatever the first day is.
-    std::array<String, 7> dayNames{u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
-                                   u"Thursday", u"Friday", u"Saturday"};
+    std::array<String, 7> dayNames{u"Sunday", u"Monday", u"Tuesday", u"Wednesday", u"Thursday", u"Friday", u"Saturday"};
     std::array<String, 7> dayAbbreviations{u"Sun", u"Mon", u"Tue", u"Wed", u"Thu", u"Fri", u"Sat"};
-    Long firstDayOfWeek = 1;           // VbDayOfWeek: 1 Sunday .. 7 Saturday
+    Long firstDayOfWeek = 1;  // VbDayOfWeek: 1 Sunday .. 7 Saturday
     DateOrder dateOrder = DateOrder::MonthDayYear;
     Long ansiCodePage = 1252;
 

@@ -50,8 +50,13 @@ bool isPatternLetter(char16_t c) noexcept { return (c >= u'a' && c <= u'z') || (
 // Blanks the picture language knows as plain blanks; marks it has no use for.
 char16_t normaliseLiteral(char16_t c) noexcept {
     switch (c) {
-        case 0x00A0: case 0x202F: case 0x2009: case 0x2007: return u' ';
-        case 0x200E: case 0x200F: case 0x061C: return 0;
+        case 0x00A0:
+        case 0x202F:
+        case 0x2009:
+        case 0x2007: return u' ';
+        case 0x200E:
+        case 0x200F:
+        case 0x061C: return 0;
         default: return c;
     }
 }
@@ -122,16 +127,26 @@ String convertPattern(const icu::UnicodeString& icuPattern, YearForm years) {
         const auto upTo = [](std::size_t count, std::size_t most) { return count < most ? count : most; };
         String field;
         switch (c) {
-            case u'y': case u'Y': case u'u': case u'U': case u'r':
-                field = (years == YearForm::AsGiven && n == 2) ? u"yy" : u"yyyy";
-                break;
-            case u'M': case u'L': field.assign(upTo(n, 4), u'M'); break;
+            case u'y':
+            case u'Y':
+            case u'u':
+            case u'U':
+            case u'r': field = (years == YearForm::AsGiven && n == 2) ? u"yy" : u"yyyy"; break;
+            case u'M':
+            case u'L': field.assign(upTo(n, 4), u'M'); break;
             case u'd': field.assign(upTo(n, 2), u'd'); break;
             case u'E': field = n >= 4 ? u"dddd" : u"ddd"; break;
-            case u'c': case u'e': if (n >= 3) field = n >= 4 ? u"dddd" : u"ddd"; break;
-            case u'a': case u'b': case u'B': field = u"tt"; break;
-            case u'h': case u'K': field.assign(upTo(n, 2), u'h'); break;
-            case u'H': case u'k': field.assign(upTo(n, 2), u'H'); break;
+            case u'c':
+            case u'e':
+                if (n >= 3) field = n >= 4 ? u"dddd" : u"ddd";
+                break;
+            case u'a':
+            case u'b':
+            case u'B': field = u"tt"; break;
+            case u'h':
+            case u'K': field.assign(upTo(n, 2), u'h'); break;
+            case u'H':
+            case u'k': field.assign(upTo(n, 2), u'H'); break;
             case u'm': field.assign(upTo(n, 2), u'm'); break;
             case u's': field.assign(upTo(n, 2), u's'); break;
             default: break;  // zones, eras, fractions, week numbers: not in the picture language
@@ -242,14 +257,14 @@ RegionalSettings RegionalSettings::fromLocale(std::string_view localeName) {
         s.thousandSeparator = group;
     }
 
-    const icu::UnicodeString shortDate =
-        patternOf(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)));
-    const icu::UnicodeString fullDate =
-        patternOf(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateInstance(icu::DateFormat::kFull, locale)));
-    const icu::UnicodeString mediumTime =
-        patternOf(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createTimeInstance(icu::DateFormat::kMedium, locale)));
-    const icu::UnicodeString shortTime =
-        patternOf(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, locale)));
+    const icu::UnicodeString shortDate = patternOf(
+        std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)));
+    const icu::UnicodeString fullDate = patternOf(
+        std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateInstance(icu::DateFormat::kFull, locale)));
+    const icu::UnicodeString mediumTime = patternOf(
+        std::unique_ptr<icu::DateFormat>(icu::DateFormat::createTimeInstance(icu::DateFormat::kMedium, locale)));
+    const icu::UnicodeString shortTime = patternOf(
+        std::unique_ptr<icu::DateFormat>(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, locale)));
     if (!shortDate.isEmpty()) s.shortDatePattern = convertPattern(shortDate, YearForm::FourDigits);
     if (!fullDate.isEmpty()) s.longDatePattern = convertPattern(fullDate, YearForm::AsGiven);
     if (!mediumTime.isEmpty()) s.longTimePattern = convertPattern(mediumTime, YearForm::AsGiven);

@@ -86,8 +86,8 @@ TEST(RegionalSettings, AsianProfilesAndCodePages) {
         Long codePage;
     };
     const Row rows[] = {{"pl_PL", 1250}, {"cs_CZ", 1250}, {"sr_RS", 1251}, {"sr_Latn_RS", 1250}, {"uk_UA", 1251},
-                        {"el_GR", 1253}, {"tr_TR", 1254}, {"he_IL", 1255},  {"ar_EG", 1256},      {"lt_LT", 1257},
-                        {"vi_VN", 1258}, {"th_TH", 874},  {"zh_CN", 936},   {"zh_TW", 950},       {"zh_Hant_HK", 950},
+                        {"el_GR", 1253}, {"tr_TR", 1254}, {"he_IL", 1255}, {"ar_EG", 1256},      {"lt_LT", 1257},
+                        {"vi_VN", 1258}, {"th_TH", 874},  {"zh_CN", 936},  {"zh_TW", 950},       {"zh_Hant_HK", 950},
                         {"ko_KR", 949},  {"sv_SE", 1252}, {"pt_BR", 1252}};
     for (const Row& r : rows) EXPECT_EQ(RegionalSettings::fromLocale(r.locale).ansiCodePage, r.codePage) << r.locale;
 

@@ -52,8 +52,7 @@ inline constexpr std::size_t npos = StringView::npos;
 // findText - the 0-based position of the first `needle` in `haystack` at or
 // after `start0`, or npos. An empty needle is found at `start0` itself when
 // that is within the text (its end included); a start past the end gives npos.
-[[nodiscard]] std::size_t findText(StringView haystack, StringView needle, std::size_t start0,
-                                   VbCompareMethod mode);
+[[nodiscard]] std::size_t findText(StringView haystack, StringView needle, std::size_t start0, VbCompareMethod mode);
 
 // findTextReverse - the 0-based position of the last `needle` that lies
 // wholly in the first `end0` units of `haystack` (npos: the whole text), or

@@ -31,9 +31,15 @@ TEST(TextCompare, OrderingInBothModes) {
         int binary;
     };
     const Row rows[] = {
-        {u"", u"", 0, 0},           {u"", u"a", -1, -1},          {u"abc", u"ABC", 0, 1},
-        {u"abc", u"abd", -1, -1},   {u"ab", u"ABC", -1, 1},       {u"ÉCOLE", u"école", 0, -1},
-        {u"Z", u"a", 1, -1},        {u"a\0b"sv, u"a", 1, 1},        {u"ΣΑΣ", u"σας", 0, -1},
+        {u"", u"", 0, 0},
+        {u"", u"a", -1, -1},
+        {u"abc", u"ABC", 0, 1},
+        {u"abc", u"abd", -1, -1},
+        {u"ab", u"ABC", -1, 1},
+        {u"ÉCOLE", u"école", 0, -1},
+        {u"Z", u"a", 1, -1},
+        {u"a\0b"sv, u"a", 1, 1},
+        {u"ΣΑΣ", u"σας", 0, -1},
         {u"\U00010400", u"\U00010428", 0, -1},  // Deseret capital and small letter: a pair of units each
     };
     for (const Row& r : rows) {
@@ -71,9 +77,9 @@ TEST(TextCompare, FindingForwardAndBackward) {
 }
 
 TEST(TextCompare, ReplacingEveryOccurrence) {
-    EXPECT_EQ(replaceText(u"aaaa", u"aa", u"b", vbBinaryCompare), u"bb");         // no overlap
-    EXPECT_EQ(replaceText(u"aaa", u"a", u"aa", vbBinaryCompare), u"aaaaaa");      // never searches its own output
-    EXPECT_EQ(replaceText(u"abc", u"", u"x", vbBinaryCompare), u"abc");           // empty find: unchanged
+    EXPECT_EQ(replaceText(u"aaaa", u"aa", u"b", vbBinaryCompare), u"bb");     // no overlap
+    EXPECT_EQ(replaceText(u"aaa", u"a", u"aa", vbBinaryCompare), u"aaaaaa");  // never searches its own output
+    EXPECT_EQ(replaceText(u"abc", u"", u"x", vbBinaryCompare), u"abc");       // empty find: unchanged
     EXPECT_EQ(replaceText(u"AbAB", u"ab", u"", vbTextCompare), u"");
     EXPECT_EQ(replaceText(u"AbAB", u"ab", u"", vbBinaryCompare), u"AbAB");
     EXPECT_EQ(replaceText(u"a.b.c", u".", u"\r\n", vbBinaryCompare), u"a\r\nb\r\nc");
@@ -165,8 +171,8 @@ TEST(TextCompare, InStrIsOneBasedAndFailsBelowOne) {
     EXPECT_EQ(inStr(1, u"a<b<c", u"<"), 2);
     EXPECT_EQ(inStr(3, u"a<b<c", u"<"), 4);
     EXPECT_EQ(inStr(5, u"a<b<c", u"<"), 0);
-    EXPECT_EQ(inStr(5, u"a<b<c", u""), 5);   // an empty needle is found at start...
-    EXPECT_EQ(inStr(6, u"a<b<c", u""), 0);   // ...unless start is past the end
+    EXPECT_EQ(inStr(5, u"a<b<c", u""), 5);  // an empty needle is found at start...
+    EXPECT_EQ(inStr(6, u"a<b<c", u""), 0);  // ...unless start is past the end
     EXPECT_EQ(inStr(1, u"aXb", u"x"), 0);
     EXPECT_EQ(inStr(1, u"aXb", u"x", vbTextCompare), 2);
     EXPECT_THROW((void)inStr(0, u"abc", u"a"), Failure);

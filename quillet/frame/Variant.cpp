@@ -46,10 +46,26 @@ const ObjectRef& Variant::objectRef() const {
 Integer Variant::kind() const noexcept {
     // Indexed by the position of each alternative in Storage.
     static constexpr Integer codes[] = {
-        vbEmpty,  vbNull,   vbInteger, vbLong,    vbSingle,  vbDouble,
-        vbDate,   vbString, vbObject,  vbError,   vbBoolean, vbByte,
-        vbArray + vbInteger, vbArray + vbLong, vbArray + vbSingle, vbArray + vbDouble,
-        vbArray + vbDate, vbArray + vbString, vbArray + vbBoolean, vbArray + vbByte,
+        vbEmpty,
+        vbNull,
+        vbInteger,
+        vbLong,
+        vbSingle,
+        vbDouble,
+        vbDate,
+        vbString,
+        vbObject,
+        vbError,
+        vbBoolean,
+        vbByte,
+        vbArray + vbInteger,
+        vbArray + vbLong,
+        vbArray + vbSingle,
+        vbArray + vbDouble,
+        vbArray + vbDate,
+        vbArray + vbString,
+        vbArray + vbBoolean,
+        vbArray + vbByte,
         vbArray + vbVariant,
     };
     static_assert(std::size(codes) == std::variant_size_v<Storage>);

@@ -132,10 +132,9 @@ public:
     struct NullValue {
         friend bool operator==(NullValue, NullValue) = default;
     };
-    using Storage =
-        std::variant<EmptyValue, NullValue, Integer, Long, Single, Double, Date, String, ObjectRef, ErrorValue, Boolean,
-                     Byte, Array<Integer>, Array<Long>, Array<Single>, Array<Double>, Array<Date>, Array<String>,
-                     Array<Boolean>, Array<Byte>, Array<Variant>>;
+    using Storage = std::variant<EmptyValue, NullValue, Integer, Long, Single, Double, Date, String, ObjectRef,
+                                 ErrorValue, Boolean, Byte, Array<Integer>, Array<Long>, Array<Single>, Array<Double>,
+                                 Array<Date>, Array<String>, Array<Boolean>, Array<Byte>, Array<Variant>>;
 
 private:
     Storage value_;

@@ -57,14 +57,23 @@ TEST(Checked, HalfToEvenAtTiesAndAtTheRangeLimits) {
     struct Row {
         double in;
         double out;
-    } rows[] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {3.5, 4}, {-0.5, -0}, {-1.5, -2}, {-2.5, -2},
-                {0.49999999999999994, 0}, {2.5000000000000004, 3}, {-2.6, -3}, {1e300, 1e300}};
+    } rows[] = {{0.5, 0},
+                {1.5, 2},
+                {2.5, 2},
+                {3.5, 4},
+                {-0.5, -0},
+                {-1.5, -2},
+                {-2.5, -2},
+                {0.49999999999999994, 0},
+                {2.5000000000000004, 3},
+                {-2.6, -3},
+                {1e300, 1e300}};
     for (const Row& r : rows) EXPECT_EQ(roundHalfEven(r.in), r.out) << "input " << r.in;
 
     EXPECT_EQ(toLong(2147483647.4), 2147483647);
-    EXPECT_EQ(toLong(2147483646.5), 2147483646);  // tie to even stays inside
+    EXPECT_EQ(toLong(2147483646.5), 2147483646);                                // tie to even stays inside
     EXPECT_EQ(failureNumber([] { (void)toLong(2147483647.5); }), errOverflow);  // rounds to 2^31
-    EXPECT_EQ(toLong(-2147483648.5), -2147483648);  // tie to even, inside
+    EXPECT_EQ(toLong(-2147483648.5), -2147483648);                              // tie to even, inside
     EXPECT_EQ(failureNumber([] { (void)toLong(-2147483649.0); }), errOverflow);
     EXPECT_EQ(toInteger(32766.5), 32766);
     EXPECT_EQ(failureNumber([] { (void)toInteger(32767.5); }), errOverflow);

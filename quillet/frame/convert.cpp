@@ -13,8 +13,7 @@ namespace quillet {
 namespace {
 template <class T>
 inline constexpr bool isPlainNumber = std::is_same_v<T, Integer> || std::is_same_v<T, Long> ||
-                                      std::is_same_v<T, Single> || std::is_same_v<T, Double> ||
-                                      std::is_same_v<T, Byte>;
+                                      std::is_same_v<T, Single> || std::is_same_v<T, Double> || std::is_same_v<T, Byte>;
 }  // namespace
 
 String toText(const Variant& value) {

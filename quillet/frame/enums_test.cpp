@@ -509,9 +509,7 @@ TEST(Enums, FirstAndLastMemberOfEveryEnumeration) {
     EXPECT_EQ(enumerations.size(), 165U);
 }
 
-TEST(Enums, RequiredSurprises) {
-    expectRows(std::begin(kSurprises), std::end(kSurprises));
-}
+TEST(Enums, RequiredSurprises) { expectRows(std::begin(kSurprises), std::end(kSurprises)); }
 
 TEST(Enums, AnyLongIsHeldAndComesBack) {
     // A document may hold a number that no member names; it must survive a

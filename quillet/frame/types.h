@@ -38,7 +38,7 @@ class Boolean {
 public:
     constexpr Boolean() noexcept = default;
     constexpr Boolean(bool value) noexcept : raw_(value ? -1 : 0) {}  // NOLINT: implicit on purpose
-    Boolean(int) = delete;  // a raw number must be explicit: use fromRaw
+    Boolean(int) = delete;                                            // a raw number must be explicit: use fromRaw
 
     [[nodiscard]] static constexpr Boolean fromRaw(std::int16_t raw) noexcept {
         Boolean b;

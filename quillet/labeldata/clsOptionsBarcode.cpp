@@ -32,9 +32,7 @@ void clsOptionsBarcode::setFontName(const String& font_name_) { fontName = font_
 Long clsOptionsBarcode::getFontSize() const { return fontSize; }
 void clsOptionsBarcode::setFontSize(Long font_size_) { fontSize = font_size_; }
 qltCode128CodeSet clsOptionsBarcode::getCode128CodeSet() const { return code128CodeSet; }
-void clsOptionsBarcode::setCode128CodeSet(qltCode128CodeSet code_128_code_set_) {
-    code128CodeSet = code_128_code_set_;
-}
+void clsOptionsBarcode::setCode128CodeSet(qltCode128CodeSet code_128_code_set_) { code128CodeSet = code_128_code_set_; }
 Double clsOptionsBarcode::getBarRatio() const { return barRatio; }
 void clsOptionsBarcode::setBarRatio(Double bar_ratio_) { barRatio = bar_ratio_; }
 Double clsOptionsBarcode::getBarWidth() const { return barWidth; }

@@ -84,7 +84,8 @@ TEST(clsOptionsBarcode, EmptyBufferReadsNothingButAShortOneReadsZerosAndEmptyTex
     // A document of an older host without "AI": absent tags neither keep the
     // field nor bring back its default.
     clsOptionsBarcode bc;
-    bc.readObject(Variant(u"<OptionsBarcode><Symbology>8</Symbology>\r\n<FontSize>12</FontSize>\r\n</OptionsBarcode>\r\n"));
+    bc.readObject(
+        Variant(u"<OptionsBarcode><Symbology>8</Symbology>\r\n<FontSize>12</FontSize>\r\n</OptionsBarcode>\r\n"));
     EXPECT_EQ(savedText(bc.writeObject()),
               "<OptionsBarcode><Symbology>8</Symbology>\r\n<Ean13Ext>0</Ean13Ext>\r\n<FontName></FontName>\r\n"
               "<FontSize>12</FontSize>\r\n<Code128CodeSet>0</Code128CodeSet>\r\n<BarRatio>0</BarRatio>\r\n"
@@ -100,8 +101,9 @@ TEST(clsOptionsBarcode, HostileNumbersNeverThrow) {
     EXPECT_EQ(bc.getBarRatio(), 2.5);
     // A whole number beyond a Long leaves its field; a Double takes it;
     // garbage reads as its numeric prefix; an unterminated tag is no element.
-    bc.readObject(Variant(u"<FontSize>1e300</FontSize><BarWidth>1e300</BarWidth><BarRatio>x7</BarRatio>"
-                          u"<Ean13Ext>2kg</Ean13Ext><FontName>Arial<AI>01</AI>"));
+    bc.readObject(
+        Variant(u"<FontSize>1e300</FontSize><BarWidth>1e300</BarWidth><BarRatio>x7</BarRatio>"
+                u"<Ean13Ext>2kg</Ean13Ext><FontName>Arial<AI>01</AI>"));
     EXPECT_EQ(bc.getFontSize(), 8);
     EXPECT_EQ(bc.getBarWidth(), 1e300);
     EXPECT_EQ(bc.getBarRatio(), 0.0);

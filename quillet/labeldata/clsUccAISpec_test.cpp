@@ -17,9 +17,9 @@ TEST(clsUccAISpec, PlaceholdersCountOnlyAsTheLastCharacterInAnyCase) {
         bool decimal;
     };
     const Row rows[] = {
-        {"00", false, false},  {"310y", false, true}, {"310Y", false, true}, {"37X", true, false},
-        {"x37", false, false}, {"3y1", false, false}, {"", false, false},    {"yx", true, false},
-        {"310y ", false, false},
+        {"00", false, false}, {"310y", false, true}, {"310Y", false, true},
+        {"37X", true, false}, {"x37", false, false}, {"3y1", false, false},
+        {"", false, false},   {"yx", true, false},   {"310y ", false, false},
     };
     for (const Row& row : rows) {
         clsUccAISpec ai;

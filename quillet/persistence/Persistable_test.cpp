@@ -36,9 +36,9 @@ template <class T>
 class Persistable : public ::testing::Test {};
 
 using PersistableClasses =
-    ::testing::Types<clsPoint, clsSelectionRange, clsTokenValuePair, clsFontSymbol, clsRulerSettings,
-                     clsOptionsBarcode, clsEPL2, clsZPL2, clsOptionsPrinter, clsMaskProperties,
-                     clsLogManagementSettings, clsOptionsLayers, clsOptionsSignaturePad>;
+    ::testing::Types<clsPoint, clsSelectionRange, clsTokenValuePair, clsFontSymbol, clsRulerSettings, clsOptionsBarcode,
+                     clsEPL2, clsZPL2, clsOptionsPrinter, clsMaskProperties, clsLogManagementSettings, clsOptionsLayers,
+                     clsOptionsSignaturePad>;
 TYPED_TEST_SUITE(Persistable, PersistableClasses);
 
 TYPED_TEST(Persistable, HostileBuffersNeverThrowAndWritingIsStable) {
@@ -56,9 +56,9 @@ TYPED_TEST(Persistable, HostileBuffersNeverThrowAndWritingIsStable) {
         EXPECT_EQ(toText(copy->writeObject()), text) << toUtf8(profile.localeName);
     }
 
-    const StringView hostileValues[] = {u"1e400", u"-1e400", u"99999999999", u"-2147483649", u"2147483647.5",
-                                        u"abc", u"", u"   ", u"&lt;&AMP;&quot", u"<", u"&HFFFFFFFFF", u"NaN",
-                                        StringView(u"\0x", 2)};
+    const StringView hostileValues[] = {
+        u"1e400",          u"-1e400", u"99999999999", u"-2147483649", u"2147483647.5",      u"abc", u"", u"   ",
+        u"&lt;&AMP;&quot", u"<",      u"&HFFFFFFFFF", u"NaN",         StringView(u"\0x", 2)};
     std::vector<Variant> buffers;
     buffers.emplace_back();
     buffers.push_back(Variant::null());

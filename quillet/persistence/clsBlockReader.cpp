@@ -73,8 +73,8 @@ void clsBlockReader::scanBuffer() {
             const Long close = inStr(at, buffer, HEADER_END);
             if (close < at) break;
             if (!seen.insert(at).second) break;
-            const StringView header = buffer.substr(static_cast<std::size_t>(at - 1),
-                                                    static_cast<std::size_t>(close - at + 1));
+            const StringView header =
+                buffer.substr(static_cast<std::size_t>(at - 1), static_cast<std::size_t>(close - at + 1));
             m_blocks.redimPreserve(0, count);
             auto info = std::make_shared<clsBlockInfo>();
             m_blocks[count] = info;

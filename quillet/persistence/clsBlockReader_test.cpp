@@ -61,8 +61,8 @@ TEST(clsBlockReader, OddHeadersAndSizes) {
         {"size rounds half-to-even", u"<BLOCK ID=x SIZE=2.5>\r\nab", u"x:2@24 "},
         {"size beyond Long ends the scan", u"<BLOCK ID=x SIZE=1>\r\na<BLOCK ID=y SIZE=9E99>\r\n", u"x:1@22 y:0@1 "},
         {"a size back to its own header ends the scan", u"<BLOCK ID=x SIZE=-23>\r\n", u"x:-23@24 "},
-        {"a size back to an earlier header ends the scan",
-         u"<BLOCK ID=x SIZE=1>\r\na<BLOCK ID=y SIZE=-30>\r\n", u"x:1@22 y:-30@46 "},
+        {"a size back to an earlier header ends the scan", u"<BLOCK ID=x SIZE=1>\r\na<BLOCK ID=y SIZE=-30>\r\n",
+         u"x:1@22 y:-30@46 "},
         {"a size before the start ends the scan", u"<BLOCK ID=x SIZE=-99>\r\n", u"x:-99@24 "},
     };
     for (const Row& r : rows) {

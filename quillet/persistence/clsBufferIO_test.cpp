@@ -130,12 +130,9 @@ TEST(clsBufferIO, StringsEscapeFiveCharactersAndDecodeThemInAnyCase) {
         const char16_t* expected;
     };
     const Row rows[] = {
-        {"ampersand last", u"a&amp;lt;b", u"a&lt;b"},
-        {"upper case entity", u"&LT;x&GT;", u"<x>"},
-        {"mixed case", u"&Amp;&QuOt;&aPoS;", u"&\"'"},
-        {"no numeric references", u"&#60;&nbsp;", u"&#60;&nbsp;"},
-        {"lone ampersand", u"a & b;", u"a & b;"},
-        {"no trimming", u"  x  ", u"  x  "},
+        {"ampersand last", u"a&amp;lt;b", u"a&lt;b"},  {"upper case entity", u"&LT;x&GT;", u"<x>"},
+        {"mixed case", u"&Amp;&QuOt;&aPoS;", u"&\"'"}, {"no numeric references", u"&#60;&nbsp;", u"&#60;&nbsp;"},
+        {"lone ampersand", u"a & b;", u"a & b;"},      {"no trimming", u"  x  ", u"  x  "},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -216,8 +213,9 @@ TEST(clsBufferIO, CollectionGoldenTextsAndBothReadForms) {
          u"red|blue|"},
         {"no items", none, u""},
         {"absent", Variant(u"<Other/>"), u""},
-        {"count above the items", Variant(u"<Colors><XmlCollection><Count>3</Count><Item1>a</Item1>"
-                                          u"</XmlCollection></Colors>"),
+        {"count above the items",
+         Variant(u"<Colors><XmlCollection><Count>3</Count><Item1>a</Item1>"
+                 u"</XmlCollection></Colors>"),
          u"a|||"},
         {"items read from the outer element",
          Variant(u"<Colors><Item1>x</Item1><XmlCollection><Count>1</Count></XmlCollection></Colors>"), u"x|"},
@@ -316,10 +314,10 @@ TEST(clsBufferIO, HostileBuffersGiveDefaultsWithoutFailing) {
     const auto c = io.ReadCollectionBetween(many, u"C");
     EXPECT_EQ(c->Count(), 1048576);
     EXPECT_EQ(c->Item(7), Variant(u"x"));
-    EXPECT_EQ(io.ReadCollectionBetween(Variant(u"<C><XmlCollection><Count>2000000000</Count></XmlCollection></C>"),
-                                       u"C")
-                  ->Count(),
-              0);
+    EXPECT_EQ(
+        io.ReadCollectionBetween(Variant(u"<C><XmlCollection><Count>2000000000</Count></XmlCollection></C>"), u"C")
+            ->Count(),
+        0);
 }
 
 }  // namespace

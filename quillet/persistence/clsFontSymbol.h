@@ -3,7 +3,8 @@
 //
 //   auto symbol = std::make_shared<clsFontSymbol>();
 //   symbol->getFontName();                // u"Arial"
-//   symbol->writeObject();                // u"<FontSymbol><FontName>Arial</FontName>\r\n<FontChar>A</FontChar>\r\n</FontSymbol>\r\n"
+//   symbol->writeObject();                //
+//   u"<FontSymbol><FontName>Arial</FontName>\r\n<FontChar>A</FontChar>\r\n</FontSymbol>\r\n"
 //   symbol->readObject(Variant(u""));
 //   symbol->getFontName();                // u"": absent tags read as the empty text
 //

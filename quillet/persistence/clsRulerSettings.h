@@ -3,7 +3,8 @@
 //
 //   auto rulers = std::make_shared<clsRulerSettings>();
 //   rulers->setVisibility(False);
-//   rulers->writeObject();                // u"<RulerSettings><RulerVisibility>False</RulerVisibility>\r\n</RulerSettings>\r\n"
+//   rulers->writeObject();                //
+//   u"<RulerSettings><RulerVisibility>False</RulerVisibility>\r\n</RulerSettings>\r\n"
 //   rulers->readObject(Variant(u""));
 //   rulers->getVisibility();              // True: an absent tag reads as True
 //

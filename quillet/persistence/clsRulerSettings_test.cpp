@@ -21,7 +21,8 @@ TEST(clsRulerSettings, SavedFormRoundTripsAndAbsentReadsTrue) {
     EXPECT_EQ(rulers->getVisibility(), False);
     // Only -1 is written as True.
     rulers->setVisibility(Boolean::fromRaw(1));
-    EXPECT_EQ(rulers->writeObject(), Variant(u"<RulerSettings><RulerVisibility>False</RulerVisibility>\r\n</RulerSettings>\r\n"));
+    EXPECT_EQ(rulers->writeObject(),
+              Variant(u"<RulerSettings><RulerVisibility>False</RulerVisibility>\r\n</RulerSettings>\r\n"));
 }
 
 TEST(clsRulerSettings, AssignObjectCopiesAndIgnoresNothing) {

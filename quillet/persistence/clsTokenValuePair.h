@@ -5,7 +5,8 @@
 //   pair->isValueEmpty();                 // True: the value is the empty text
 //   pair->setToken(u"T");
 //   pair->setValue(5);
-//   pair->writeObject();                  // u"<TokenValuePair><Token>T</Token>\r\n<Value>5</Value>\r\n</TokenValuePair>\r\n"
+//   pair->writeObject();                  //
+//   u"<TokenValuePair><Token>T</Token>\r\n<Value>5</Value>\r\n</TokenValuePair>\r\n"
 //   pair->readObject(pair->writeObject());
 //   pair->getValue();                     // Variant(u"5"): kinds are not saved
 //

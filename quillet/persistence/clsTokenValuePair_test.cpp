@@ -11,7 +11,8 @@ TEST(clsTokenValuePair, SavedFormRoundTripsWithTheValueAsRawText) {
     auto pair = std::make_shared<clsTokenValuePair>();
     pair->setToken(u"T");
     pair->setValue(5);
-    EXPECT_EQ(pair->writeObject(), Variant(u"<TokenValuePair><Token>T</Token>\r\n<Value>5</Value>\r\n</TokenValuePair>\r\n"));
+    EXPECT_EQ(pair->writeObject(),
+              Variant(u"<TokenValuePair><Token>T</Token>\r\n<Value>5</Value>\r\n</TokenValuePair>\r\n"));
     pair->readObject(pair->writeObject());
     EXPECT_EQ(pair->getValue(), Variant(u"5"));  // kinds are not saved
     pair->readObject(fresh);

@@ -14,8 +14,13 @@ Array<Byte> bytesOf(std::string_view s) {
 
 TEST(Base64, Rfc4648VectorsBothWays) {
     const std::pair<const char*, const char16_t*> vectors[] = {
-        {"", u""},         {"f", u"Zg=="},         {"fo", u"Zm8="},        {"foo", u"Zm9v"},
-        {"foob", u"Zm9vYg=="}, {"fooba", u"Zm9vYmE="}, {"foobar", u"Zm9vYmFy"},
+        {"", u""},
+        {"f", u"Zg=="},
+        {"fo", u"Zm8="},
+        {"foo", u"Zm9v"},
+        {"foob", u"Zm9vYg=="},
+        {"fooba", u"Zm9vYmE="},
+        {"foobar", u"Zm9vYmFy"},
     };
     for (const auto& [plain, encoded] : vectors) {
         SCOPED_TRACE(plain);

@@ -10,7 +10,8 @@ namespace quillet {
 namespace {
 
 TEST(CodePage, Windows1252RoundTripAndSubstitution) {
-    EXPECT_EQ(toCodePage(u"Grüße €", 1252), std::string("Gr\xFC\xDF" "e \x80"));
+    EXPECT_EQ(toCodePage(u"Grüße €", 1252), std::string("Gr\xFC\xDF"
+                                                        "e \x80"));
     EXPECT_EQ(fromCodePage(std::string("\x80"), 1252), u"€");
     // Every byte that 1252 defines comes back as itself.
     std::string all;

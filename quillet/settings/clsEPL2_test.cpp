@@ -86,8 +86,9 @@ TEST(clsEPL2, EmptyOrShortBufferResetsToTheDefaults) {
 TEST(clsEPL2, HostileValuesAndNothingNeverThrow) {
     clsEPL2 e;
     e.setExtraFeed(9);
-    e.readObject(Variant(u"<EPL2ExtraFeed>3e10</EPL2ExtraFeed><EPL2GapOffset>-12abc</EPL2GapOffset>"
-                         u"<EPL2TopOfFormBackup>maybe</EPL2TopOfFormBackup>"));
+    e.readObject(
+        Variant(u"<EPL2ExtraFeed>3e10</EPL2ExtraFeed><EPL2GapOffset>-12abc</EPL2GapOffset>"
+                u"<EPL2TopOfFormBackup>maybe</EPL2TopOfFormBackup>"));
     EXPECT_EQ(e.getExtraFeed(), 9);  // beyond a Long: the field keeps its value
     EXPECT_EQ(e.getGapOffset(), -12);
     EXPECT_EQ(e.getTopOfFormBackup(), True);

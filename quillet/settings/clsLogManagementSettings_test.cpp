@@ -53,8 +53,9 @@ TEST(clsLogManagementSettings, EmptyBufferKeepsEverythingOtherTagsGiveReaderDefa
     EXPECT_EQ(saved(*s), FRESH_TEXT);
 
     // Readers do not validate; a number beyond a Long keeps its field.
-    s->readObject(Variant(u"<MaxLogAge>-7</MaxLogAge><MaxLogCount>1e12</MaxLogCount>"
-                          u"<RemoveLogsByAge> Yes </RemoveLogsByAge>"));
+    s->readObject(
+        Variant(u"<MaxLogAge>-7</MaxLogAge><MaxLogCount>1e12</MaxLogCount>"
+                u"<RemoveLogsByAge> Yes </RemoveLogsByAge>"));
     EXPECT_EQ(s->getMaxLogAge(), -7);
     EXPECT_EQ(s->getMaxLogCount(), 1000);
     EXPECT_EQ(s->getRemoveLogsByAge(), True);

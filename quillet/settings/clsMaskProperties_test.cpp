@@ -47,8 +47,7 @@ TEST(clsMaskProperties, ToleranceIsClampedBySetterAndReader) {
     struct Row {
         Long given;
         Long stored;
-    } rows[] = {{-5, 0}, {0, 0}, {1, 1}, {99, 99}, {100, 100}, {150, 100},
-                {-2147483647 - 1, 0}, {2147483647, 100}};
+    } rows[] = {{-5, 0}, {0, 0}, {1, 1}, {99, 99}, {100, 100}, {150, 100}, {-2147483647 - 1, 0}, {2147483647, 100}};
     for (const Row& r : rows) {
         clsMaskProperties m;
         m.setMaskTolerance(r.given);

@@ -41,13 +41,12 @@ void clsOptionsPrinter::readObject(const Variant& buffer_) {
     attempt([&] { setPrintAsGraphics(io.ReadBooleanBetween(buffer_, u"PrintAsGraphics", False)); });
     attempt([&] { setSpoolEachPage(io.ReadBooleanBetween(buffer_, u"SpoolEachPage", False)); });
     attempt([&] {
-        setGridLineOption(static_cast<QLTReportGridLines>(toLong(io.ReadNumberBetween(buffer_, u"GridLineOption", Long{0}))));
+        setGridLineOption(
+            static_cast<QLTReportGridLines>(toLong(io.ReadNumberBetween(buffer_, u"GridLineOption", Long{0}))));
     });
     attempt([&] { setPrintColumnCaptions(io.ReadBooleanBetween(buffer_, u"PrintColumnCaptions", True)); });
     attempt([&] { setReprintFirstCol(io.ReadBooleanBetween(buffer_, u"ReprintFirstCol", True)); });
-    attempt([&] {
-        setPrinterFontSize(toLong(io.ReadNumberBetween(buffer_, u"PrinterFontSize", DEFAULT_FONT_SIZE)));
-    });
+    attempt([&] { setPrinterFontSize(toLong(io.ReadNumberBetween(buffer_, u"PrinterFontSize", DEFAULT_FONT_SIZE))); });
     attempt([&] { setNumberOfCopies(toLong(io.ReadNumberBetween(buffer_, u"NumberOfCopies", Long{1}))); });
 }
 

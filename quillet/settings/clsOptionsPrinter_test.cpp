@@ -102,8 +102,16 @@ TEST(clsOptionsPrinter, NumbersRoundHalfEvenAndTooLargeKeepsTheField) {
         const char16_t* text;
         Long copies;  // from 3
     } rows[] = {
-        {u"2.5", 2}, {u"3.5", 4}, {u"-0.5", 0}, {u"7kg", 7}, {u"abc", 0}, {u"1,5", 1},
-        {u"2147483647", 2147483647}, {u"2147483647.5", 3}, {u"1e300", 3}, {u"-1e300", 3},
+        {u"2.5", 2},
+        {u"3.5", 4},
+        {u"-0.5", 0},
+        {u"7kg", 7},
+        {u"abc", 0},
+        {u"1,5", 1},
+        {u"2147483647", 2147483647},
+        {u"2147483647.5", 3},
+        {u"1e300", 3},
+        {u"-1e300", 3},
     };
     for (const Row& r : rows) {
         auto p = changed();

@@ -42,9 +42,7 @@ void clsOptionsSignaturePad::SetDisplayStandbyMessage(Boolean display_standby_me
     m_displayStandbyMessage = display_standby_message_;
 }
 Boolean clsOptionsSignaturePad::GetDisplayStandbyMessage() const { return m_displayStandbyMessage; }
-void clsOptionsSignaturePad::SetStandbyMessage(const String& standby_message_) {
-    m_standbyMessage = standby_message_;
-}
+void clsOptionsSignaturePad::SetStandbyMessage(const String& standby_message_) { m_standbyMessage = standby_message_; }
 String clsOptionsSignaturePad::GetStandbyMessage() const { return m_standbyMessage; }
 void clsOptionsSignaturePad::SetLinesPerRefresh(Long linesPerRefresh_) { m_linesPerRefresh = linesPerRefresh_; }
 Long clsOptionsSignaturePad::GetLinesPerRefresh() const { return m_linesPerRefresh; }

@@ -92,7 +92,8 @@ TEST(clsOptionsSignaturePad, StrictFieldsKeepTheirValueOnNonNumbers) {
         {u"3.5", 4, 4, 4},
         {u"3x", 7, 40, 3},
         {u"abc", 7, 40, 0},
-        {u"", 7, 25, 0},  // present but empty: each reader's default
+        {u"", 7, 25, 0},  // present but empty: each reader's
+                          // default
         {u"1e300", 7, 40, 255},
         {u"2147483648", 7, 40, 255},
     };

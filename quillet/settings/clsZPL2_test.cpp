@@ -16,13 +16,14 @@ std::string savedText(const Variant& saved) {
 
 // A fresh object's text, with its print orientation (bottom first, 1).
 std::string freshText(const char* orientation = "1") {
-    return std::string("<AdvancedPrinterSettingsZPL2><ZPL2PrintMode>0</ZPL2PrintMode>\r\n"
-                       "<ZPL2PageMode>0</ZPL2PageMode>\r\n"
-                       "<ZPL2PrintSpeed>1</ZPL2PrintSpeed>\r\n"
-                       "<ZPL2SlewSpeed>1</ZPL2SlewSpeed>\r\n"
-                       "<ZPL2BackfeedSpeed>1</ZPL2BackfeedSpeed>\r\n"
-                       "<ZPL2PrintDarkness>1</ZPL2PrintDarkness>\r\n"
-                       "<ZPL2PrintOrientation>") +
+    return std::string(
+               "<AdvancedPrinterSettingsZPL2><ZPL2PrintMode>0</ZPL2PrintMode>\r\n"
+               "<ZPL2PageMode>0</ZPL2PageMode>\r\n"
+               "<ZPL2PrintSpeed>1</ZPL2PrintSpeed>\r\n"
+               "<ZPL2SlewSpeed>1</ZPL2SlewSpeed>\r\n"
+               "<ZPL2BackfeedSpeed>1</ZPL2BackfeedSpeed>\r\n"
+               "<ZPL2PrintDarkness>1</ZPL2PrintDarkness>\r\n"
+               "<ZPL2PrintOrientation>") +
            orientation +
            "</ZPL2PrintOrientation>\r\n"
            "<ZPL2FeedMode>0</ZPL2FeedMode>\r\n"
@@ -89,8 +90,9 @@ TEST(clsZPL2, AbsentTagsGiveTheReadersDefaultsWhereOrientationIsTopFirst) {
     // A short buffer: tags present are read, the rest get their reader's
     // default, not the value they held.
     const auto z = changedObject();
-    z->readObject(Variant(u"<AdvancedPrinterSettingsZPL2><ZPL2PrintSpeed>2</ZPL2PrintSpeed>\r\n"
-                          u"<ZPL2PauseAfterCut> yes </ZPL2PauseAfterCut>\r\n</AdvancedPrinterSettingsZPL2>\r\n"));
+    z->readObject(
+        Variant(u"<AdvancedPrinterSettingsZPL2><ZPL2PrintSpeed>2</ZPL2PrintSpeed>\r\n"
+                u"<ZPL2PauseAfterCut> yes </ZPL2PauseAfterCut>\r\n</AdvancedPrinterSettingsZPL2>\r\n"));
     EXPECT_EQ(z->getPrintSpeed(), QLT_PRINT_SPEED_FAST);
     EXPECT_EQ(z->getPauseAfterCut(), True);
     EXPECT_EQ(z->getPrintOrientation(), QLT_PRINT_ORIENTATION_TOP_FIRST);
@@ -102,13 +104,14 @@ TEST(clsZPL2, HostileValuesNeverThrow) {
     clsZPL2 z;
     z.setPauseInterval(7);
     z.setTopAdjustment(7);
-    z.readObject(Variant(u"<ZPL2PauseInterval>99999999999</ZPL2PauseInterval>"  // beyond a Long: field kept
-                         u"<ZPL2TopAdjustment>-1e308</ZPL2TopAdjustment>"       // likewise
-                         u"<ZPL2CutterInterval>2.5</ZPL2CutterInterval>"        // half-to-even
-                         u"<ZPL2TearOffAdjustment>3.5</ZPL2TearOffAdjustment>"
-                         u"<ZPL2PageMode>&H10</ZPL2PageMode>"                   // the numeric prefix reads hex
-                         u"<ZPL2PrintMode>abc</ZPL2PrintMode>"
-                         u"<ZPL2PauseAfterCut>1</ZPL2PauseAfterCut>"));         // no Boolean word: default
+    z.readObject(
+        Variant(u"<ZPL2PauseInterval>99999999999</ZPL2PauseInterval>"  // beyond a Long: field kept
+                u"<ZPL2TopAdjustment>-1e308</ZPL2TopAdjustment>"       // likewise
+                u"<ZPL2CutterInterval>2.5</ZPL2CutterInterval>"        // half-to-even
+                u"<ZPL2TearOffAdjustment>3.5</ZPL2TearOffAdjustment>"
+                u"<ZPL2PageMode>&H10</ZPL2PageMode>"  // the numeric prefix reads hex
+                u"<ZPL2PrintMode>abc</ZPL2PrintMode>"
+                u"<ZPL2PauseAfterCut>1</ZPL2PauseAfterCut>"));  // no Boolean word: default
     EXPECT_EQ(z.getPauseInterval(), 7);
     EXPECT_EQ(z.getTopAdjustment(), 7);
     EXPECT_EQ(z.getCutterInterval(), 2);
