@@ -15,6 +15,7 @@
 #include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/TextCompare.h"
+#include "quillet/frame/chars.h"
 #include "quillet/frame/convert.h"
 #include "quillet/platform/Clock.h"
 
@@ -387,8 +388,8 @@ void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firs
 // ---------------------------------------------------------------------------
 // Reading
 
-bool isBlank(char16_t c) noexcept { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == 0x00A0; }
-bool isDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
+constexpr auto isBlank = chars::isDateBlank;
+constexpr auto isDigit = chars::isAsciiDigit;
 
 StringView trimmed(StringView s) noexcept {
     while (!s.empty() && isBlank(s.front())) s.remove_prefix(1);

@@ -4,6 +4,7 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/TextCompare.h"
+#include "quillet/frame/chars.h"
 
 namespace quillet {
 
@@ -96,7 +97,7 @@ bool matchesOne(const Compiled& c, const Token& t, char16_t ch) noexcept {
     switch (t.op) {
         case Op::Literal: return ch == t.ch;
         case Op::AnyOne: return true;
-        case Op::Digit: return ch >= u'0' && ch <= u'9';
+        case Op::Digit: return chars::isAsciiDigit(ch);
         case Op::Set: return inSet(c, t, ch);
         case Op::NotSet: return !inSet(c, t, ch);
         case Op::Star: break;

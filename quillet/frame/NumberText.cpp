@@ -7,6 +7,7 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/RegionalSettings.h"
+#include "quillet/frame/chars.h"
 
 namespace quillet {
 
@@ -86,8 +87,8 @@ String wholeText(T value) {
     return String(buf, res.ptr);
 }
 
-bool isSkipped(char16_t c) noexcept { return c == u' ' || c == u'\t' || c == u'\n'; }
-bool isDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
+constexpr auto isSkipped = chars::isNumberBlank;
+constexpr auto isDigit = chars::isAsciiDigit;
 
 int digitValue(char16_t c) noexcept {
     if (c >= u'0' && c <= u'9') return c - u'0';
@@ -254,8 +255,8 @@ Parsed parseStrict(StringView text, double& value) noexcept {
     value = 0;
     std::size_t i = 0;
     std::size_t n = text.size();
-    while (i < n && (text[i] == u' ' || text[i] == u'\t')) ++i;
-    while (n > i && (text[n - 1] == u' ' || text[n - 1] == u'\t')) --n;
+    while (i < n && chars::isStrictNumberBlank(text[i])) ++i;
+    while (n > i && chars::isStrictNumberBlank(text[n - 1])) --n;
     if (i == n) return Parsed::NoNumber;
 
     if (n - i > 2 && text[i] == u'&') {

@@ -5,14 +5,15 @@
 //   trimBlanks(u"\ta ")       u"\ta"
 #pragma once
 
+#include "quillet/frame/chars.h"
 #include "quillet/frame/types.h"
 
 namespace quillet {
 
 // trimBlanks - a view into `text`; keep `text` alive while the view is used.
 [[nodiscard]] constexpr StringView trimBlanks(StringView text) noexcept {
-    while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == u' ') text.remove_suffix(1);
+    while (!text.empty() && chars::isTrimBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && chars::isTrimBlank(text.back())) text.remove_suffix(1);
     return text;
 }
 

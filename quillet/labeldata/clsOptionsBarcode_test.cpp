@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "quillet_test.h"
+
 #include <memory>
 
 #include "quillet/frame/RegionalSettings.h"
@@ -9,11 +11,6 @@
 
 namespace quillet {
 namespace {
-
-std::string savedText(const Variant& saved) {
-    const String* text = saved.getIf<String>();
-    return text ? toUtf8(*text) : std::string("<not a String>");
-}
 
 constexpr const char* FRESH_TEXT =
     "<OptionsBarcode><Symbology>5</Symbology>\r\n"

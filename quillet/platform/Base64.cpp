@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "quillet/frame/chars.h"
+
 namespace quillet::base64 {
 
 namespace {
@@ -17,7 +19,7 @@ int sextet(char16_t c) noexcept {
     return -1;
 }
 
-bool isSkipped(char16_t c) noexcept { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; }
+constexpr auto isSkipped = chars::isBase64Skipped;
 
 }  // namespace
 

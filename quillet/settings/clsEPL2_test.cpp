@@ -2,17 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "quillet_test.h"
+
 #include <memory>
 
 #include "quillet/frame/utf8.h"
 
 namespace quillet {
 namespace {
-
-std::string savedText(const Variant& saved) {
-    const String* text = saved.getIf<String>();
-    return text ? toUtf8(*text) : std::string("<not a String>");
-}
 
 constexpr const char* FRESH_TEXT =
     "<AdvancedPrinterSettingsEPL2><EPL2PrintMode>0</EPL2PrintMode>\r\n"

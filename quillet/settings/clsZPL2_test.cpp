@@ -2,17 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "quillet_test.h"
+
 #include <memory>
 
 #include "quillet/frame/utf8.h"
 
 namespace quillet {
 namespace {
-
-std::string savedText(const Variant& saved) {
-    const String* text = saved.getIf<String>();
-    return text ? toUtf8(*text) : std::string("<not a String>");
-}
 
 // A fresh object's text, with its print orientation (bottom first, 1).
 std::string freshText(const char* orientation = "1") {
