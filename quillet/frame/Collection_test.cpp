@@ -2,20 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include "quillet_test.h"
+
+#include <optional>
+#include <random>
+#include <vector>
+
 #include "quillet/frame/Array.h"
+#include "quillet/frame/NumberText.h"
+#include "quillet/frame/TextCompare.h"
 #include "quillet/frame/convert.h"
 
 namespace quillet {
 namespace {
-
-Long failureNumber(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const Failure& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 String order(const Collection& c) {
     String s;
@@ -34,46 +33,147 @@ TEST(Collection, KeysIgnoreCaseAreUniqueAndPositionsAreOneBased) {
     EXPECT_EQ(toText(c.Item(u"keya")), u"a");
     EXPECT_EQ(toText(c.Item(2.5)), u"a");  // positions round half-to-even
 
-    EXPECT_EQ(failureNumber([&] { c.Add(u"x", u"KEYa"); }), errDuplicateKey);
-    EXPECT_EQ(c.Count(), 5);  // the failed Add added nothing
-    EXPECT_EQ(failureNumber([&] { (void)c.Item(0); }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { (void)c.Item(6); }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { (void)c.Item(u"absent"); }), errInvalidCall);
-    EXPECT_EQ(failureNumber([&] { c.Add(u"x", 5); }), errTypeMismatch);  // a key is a text
-    EXPECT_EQ(failureNumber([&] { c.Add(u"x", Variant::missing(), 1, 1); }), errInvalidCall);
-    EXPECT_EQ(failureNumber([&] { c.Add(u"x", u"new", 9); }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { c.Add(u"x", u"new", u"nokey"); }), errInvalidCall);
-    EXPECT_EQ(c.Count(), 5);
+    // A failed Add adds nothing and leaves every key where it was.
+    EXPECT_FAILURE(c.Add(u"x", u"KEYa"), errDuplicateKey);
+    EXPECT_FAILURE(c.Add(u"x", u"new", 9), errSubscript);
+    EXPECT_FAILURE(c.Add(u"x", u"new", u"nokey"), errInvalidCall);
+    EXPECT_FAILURE(c.Add(u"x", u"new2", Variant::missing(), u"nokey"), errInvalidCall);
+    EXPECT_FAILURE(c.Add(u"x", 5), errTypeMismatch);  // a key is a text
+    EXPECT_FAILURE(c.Add(u"x", Variant::missing(), 1, 1), errInvalidCall);
+    EXPECT_EQ(order(c), u"0abcd");
+    EXPECT_FAILURE((void)c.Item(u"new"), errInvalidCall);
+    c.Add(u"n", u"new");  // the key the failed Adds named is still free
+    EXPECT_EQ(toText(c.Item(u"keyc")), u"c");
+    EXPECT_EQ(toText(c.Item(u"NEW")), u"n");
 
-    c.Remove(u"KEYC");
-    c.Remove(1);
-    EXPECT_EQ(order(c), u"abd");
-    EXPECT_EQ(failureNumber([&] { c.Remove(u"keyc"); }), errInvalidCall);
-    c.Add(u"c2", u"keyc");  // a removed key is free again
-    EXPECT_EQ(toText(c.Item(u"KeyC")), u"c2");
-    EXPECT_EQ(failureNumber([&] { c.Remove(0); }), errSubscript);
+    EXPECT_FAILURE((void)c.Item(0), errSubscript);
+    EXPECT_FAILURE((void)c.Item(7), errSubscript);
+    EXPECT_FAILURE((void)c.Item(Variant()), errTypeMismatch);
+    EXPECT_FAILURE(c.Remove(0), errSubscript);
+}
+
+// Keys that differ only in case, after items moved around them: the index
+// must follow every insertion and removal on either side of a key.
+TEST(Collection, KeysFollowInsertionsAndRemovalsOnBothSides) {
+    Collection c;
+    for (const char16_t* k : {u"k1", u"k2", u"k3", u"k4", u"k5"}) c.Add(k, k);
+    c.Add(u"f", u"FRONT", u"K1");                    // before the first, by key
+    c.Add(u"m", u"Mid", Variant::missing(), u"k3");  // after a middle key
+    c.Add(u"e", u"end", Variant::missing(), u"K5");  // after the last
+    EXPECT_EQ(order(c), u"fk1k2k3mk4k5e");
+    c.Remove(u"k2");
+    c.Remove(u"FRONT");
+    c.Remove(c.Count());  // "e" by position
+    EXPECT_EQ(order(c), u"k1k3mk4k5");
+    EXPECT_FAILURE(c.Add(u"dup", u"MID"), errDuplicateKey);
+    c.Add(u"K2", u"K2", 2);  // the removed key is free again, in any case
+    EXPECT_EQ(order(c), u"k1K2k3mk4k5");
+    for (const char16_t* k : {u"K1", u"k2", u"K3", u"mID", u"K4", u"k5"}) {
+        const String folded = foldCase(k);
+        const String item = toText(c.Item(k));
+        EXPECT_EQ(foldCase(item == u"m" ? u"mid" : item), folded);
+    }
+    EXPECT_FAILURE((void)c.Item(u"front"), errInvalidCall);
+    EXPECT_FAILURE((void)c.Item(u"END"), errInvalidCall);
+    // Folding is the rule of text comparison: one unit stays one unit.
+    c.Add(u"sz", u"Straße");
+    EXPECT_FAILURE((void)c.Item(u"STRASSE"), errInvalidCall);
+    EXPECT_EQ(toText(c.Item(u"STRAßE")), u"sz");
+}
+
+// A long run of mixed operations against a plain list of (folded key, item):
+// every answer and every failure must agree.
+TEST(Collection, AgreesWithAPlainListOverManyOperations) {
+    struct Entry {
+        std::optional<String> key;
+        Long item;
+    };
+    std::vector<Entry> model;
+    Collection c;
+    std::mt19937 rng(7);
+    const auto keyText = [&](unsigned k) {
+        String s = u"key" + numberText(static_cast<Long>(k % 40));
+        if (k & 64) s = u"KEY" + s.substr(3);
+        return s;
+    };
+    const auto modelFind = [&](const String& key) -> long {
+        const String f = foldCase(key);
+        for (std::size_t i = 0; i < model.size(); ++i)
+            if (model[i].key == f) return static_cast<long>(i);
+        return -1;
+    };
+    for (Long step = 0; step < 4000; ++step) {
+        const unsigned op = rng() % 6;
+        const String key = keyText(rng());
+        const Long pos = static_cast<Long>(rng() % (model.size() + 2));
+        if (op <= 2) {  // Add with a key, before or after a position or key, or at the end
+            const bool useKey = rng() % 2 == 0;
+            const long exists = modelFind(key);
+            long at = static_cast<long>(model.size());
+            Variant before = Variant::missing();
+            Variant after = Variant::missing();
+            Long expectedError = exists >= 0 ? errDuplicateKey : 0;
+            if (op == 1 || op == 2) {
+                const String other = keyText(rng());
+                const long place = useKey ? modelFind(other) : (pos >= 1 && pos <= Long(model.size()) ? pos - 1 : -1);
+                (op == 1 ? before : after) = useKey ? Variant(other) : Variant(pos);
+                if (!expectedError && place < 0) expectedError = useKey ? errInvalidCall : errSubscript;
+                at = op == 1 ? place : place + 1;
+            }
+            if (expectedError) {
+                EXPECT_FAILURE(c.Add(step, key, before, after), expectedError);
+            } else {
+                c.Add(step, key, before, after);
+                model.insert(model.begin() + at, Entry{foldCase(key), step});
+            }
+        } else if (op == 3) {  // Remove by key or position
+            const long at = rng() % 2 ? modelFind(key) : (pos >= 1 && pos <= Long(model.size()) ? pos - 1 : -1);
+            if (at < 0) continue;
+            if (model[at].key && rng() % 2) c.Remove(*model[at].key);
+            else c.Remove(static_cast<Long>(at + 1));
+            model.erase(model.begin() + at);
+        } else if (op == 4) {  // an item without a key in the middle
+            const Long at = static_cast<Long>(rng() % (model.size() + 1));
+            if (model.empty()) c.Add(step);
+            else if (at == 0) c.Add(step, Variant::missing(), 1);
+            else c.Add(step, Variant::missing(), Variant::missing(), at);
+            model.insert(model.begin() + at, Entry{std::nullopt, step});
+        } else {  // Item by key
+            const long at = modelFind(key);
+            if (at < 0) EXPECT_FAILURE((void)c.Item(key), errInvalidCall);
+            else EXPECT_EQ(c.Item(key), Variant(model[at].item));
+        }
+        ASSERT_EQ(c.Count(), static_cast<Long>(model.size())) << step;
+        if (step % 100 != 99) continue;
+        for (std::size_t i = 0; i < model.size(); ++i) {
+            ASSERT_EQ(c.Item(static_cast<Long>(i + 1)), Variant(model[i].item)) << step;
+            if (model[i].key) {
+                ASSERT_EQ(c.Item(*model[i].key), Variant(model[i].item)) << step;
+            }
+        }
+    }
 }
 
 TEST(Array, BoundsAnyLowerAndUnallocated) {
     Array<String> unallocated;
     EXPECT_FALSE(unallocated.isAllocated());
-    EXPECT_EQ(failureNumber([&] { (void)unallocated.lbound(); }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { (void)unallocated.ubound(); }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { (void)unallocated[0]; }), errSubscript);
+    EXPECT_FAILURE((void)unallocated.lbound(), errSubscript);
+    EXPECT_FAILURE((void)unallocated.ubound(), errSubscript);
+    EXPECT_FAILURE((void)unallocated[0], errSubscript);
 
     Array<Long> one(1, 3);
     one[1] = 10;
     one[3] = 30;
-    EXPECT_EQ(failureNumber([&] { one[0] = 1; }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { one[4] = 1; }), errSubscript);
+    EXPECT_FAILURE(one[0] = 1, errSubscript);
+    EXPECT_FAILURE(one[4] = 1, errSubscript);
 
     Array<Long> neg(-5, -3);
     neg[-5] = 1;
     neg[-3] = 3;
     EXPECT_EQ(neg.lbound(), -5);
     EXPECT_EQ(neg.ubound(), -3);
-    EXPECT_EQ(failureNumber([&] { (void)neg[-6]; }), errSubscript);
-    EXPECT_EQ(failureNumber([&] { (void)neg[-2]; }), errSubscript);
+    EXPECT_FAILURE((void)neg[-6], errSubscript);
+    EXPECT_FAILURE((void)neg[-2], errSubscript);
 
     neg.redimPreserve(-5, -1);  // grows, keeps the first three
     EXPECT_EQ(neg[-5], 1);
@@ -88,7 +188,7 @@ TEST(Array, BoundsAnyLowerAndUnallocated) {
     Array<Byte> empty(0, -1);  // allocated, no element
     EXPECT_TRUE(empty.isAllocated());
     EXPECT_EQ(empty.ubound(), -1);
-    EXPECT_EQ(failureNumber([&] { empty.redim(0, -2); }), errSubscript);
+    EXPECT_FAILURE(empty.redim(0, -2), errSubscript);
     EXPECT_EQ(empty.ubound(), -1);  // the failed redim changed nothing
 
     Array<Long> copy = one;  // copied on assignment
