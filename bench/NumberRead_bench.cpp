@@ -12,7 +12,7 @@ namespace {
 
 const std::vector<quillet::String>& texts() {
     static const std::vector<quillet::String> v = {
-        u"12.5kg", u"1 000", u"abc",       u"-3.25E+10", u"0",    u"&HFF",   u"  42  ",
+        u"12.5kg", u"1 000", u"abc",       u"-3.25E+10", u"0",    u"&HFF",       u"  42  ",
         u"1,5",    u"0.1",   u"123456789", u"-.5",       u"1D-3", u"2147483647",
     };
     return v;

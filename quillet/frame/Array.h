@@ -33,16 +33,16 @@ public:
     // An allocated array with the given elements from subscript `lower`.
     static Array from(Long lower, std::initializer_list<T> items) {
         Array a;
-        a.allocated_ = true;
-        a.lower_ = lower;
-        a.items_.assign(items.begin(), items.end());
+        a.m_allocated = true;
+        a.m_lower = lower;
+        a.m_items.assign(items.begin(), items.end());
         return a;
     }
     static Array from(Long lower, std::vector<T> items) {
         Array a;
-        a.allocated_ = true;
-        a.lower_ = lower;
-        a.items_ = std::move(items);
+        a.m_allocated = true;
+        a.m_lower = lower;
+        a.m_items = std::move(items);
         return a;
     }
 
@@ -50,49 +50,49 @@ public:
     // bound below lower - 1 fails with errSubscript and changes nothing.
     void redim(Long lower, Long upper) {
         const std::size_t n = count(lower, upper);
-        items_.assign(n, T{});
-        lower_ = lower;
-        allocated_ = true;
+        m_items.assign(n, T{});
+        m_lower = lower;
+        m_allocated = true;
     }
     // redimPreserve - new bounds, keeping the elements in order from the first:
     // the element that was first is first again, whatever the new lower bound.
     void redimPreserve(Long lower, Long upper) {
         const std::size_t n = count(lower, upper);
-        items_.resize(n);
-        lower_ = lower;
-        allocated_ = true;
+        m_items.resize(n);
+        m_lower = lower;
+        m_allocated = true;
     }
     // erase - back to unallocated.
     void erase() noexcept {
-        items_.clear();
-        lower_ = 0;
-        allocated_ = false;
+        m_items.clear();
+        m_lower = 0;
+        m_allocated = false;
     }
 
     // queries
-    [[nodiscard]] bool isAllocated() const noexcept { return allocated_; }
+    [[nodiscard]] bool isAllocated() const noexcept { return m_allocated; }
     // lbound, ubound - the bounds; on an unallocated array errSubscript.
     [[nodiscard]] Long lbound() const {
-        if (!allocated_) throw Failure(errSubscript);
-        return lower_;
+        if (!m_allocated) throw Failure(errSubscript);
+        return m_lower;
     }
     [[nodiscard]] Long ubound() const {
-        if (!allocated_) throw Failure(errSubscript);
-        return static_cast<Long>(lower_ + static_cast<long long>(items_.size()) - 1);
+        if (!m_allocated) throw Failure(errSubscript);
+        return static_cast<Long>(m_lower + static_cast<long long>(m_items.size()) - 1);
     }
     // size - number of elements; 0 when unallocated. Never fails.
-    [[nodiscard]] std::size_t size() const noexcept { return items_.size(); }
+    [[nodiscard]] std::size_t size() const noexcept { return m_items.size(); }
 
     // element access - outside the bounds, or unallocated, errSubscript.
-    [[nodiscard]] T& operator[](Long subscript) { return items_[offset(subscript)]; }
-    [[nodiscard]] const T& operator[](Long subscript) const { return items_[offset(subscript)]; }
+    [[nodiscard]] T& operator[](Long subscript) { return m_items[offset(subscript)]; }
+    [[nodiscard]] const T& operator[](Long subscript) const { return m_items[offset(subscript)]; }
 
     // The elements in subscript order, for range-for and algorithms.
-    [[nodiscard]] const std::vector<T>& elements() const noexcept { return items_; }
-    [[nodiscard]] auto begin() noexcept { return items_.begin(); }
-    [[nodiscard]] auto end() noexcept { return items_.end(); }
-    [[nodiscard]] auto begin() const noexcept { return items_.begin(); }
-    [[nodiscard]] auto end() const noexcept { return items_.end(); }
+    [[nodiscard]] const std::vector<T>& elements() const noexcept { return m_items; }
+    [[nodiscard]] auto begin() noexcept { return m_items.begin(); }
+    [[nodiscard]] auto end() noexcept { return m_items.end(); }
+    [[nodiscard]] auto begin() const noexcept { return m_items.begin(); }
+    [[nodiscard]] auto end() const noexcept { return m_items.end(); }
 
     friend bool operator==(const Array&, const Array&) = default;
 
@@ -103,14 +103,14 @@ private:
         return static_cast<std::size_t>(n);
     }
     [[nodiscard]] std::size_t offset(Long subscript) const {
-        const long long i = static_cast<long long>(subscript) - lower_;
-        if (!allocated_ || i < 0 || i >= static_cast<long long>(items_.size())) throw Failure(errSubscript);
+        const long long i = static_cast<long long>(subscript) - m_lower;
+        if (!m_allocated || i < 0 || i >= static_cast<long long>(m_items.size())) throw Failure(errSubscript);
         return static_cast<std::size_t>(i);
     }
 
-    std::vector<T> items_;
-    Long lower_ = 0;
-    bool allocated_ = false;
+    std::vector<T> m_items;
+    Long m_lower = 0;
+    bool m_allocated = false;
 };
 
 }  // namespace quillet

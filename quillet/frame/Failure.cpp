@@ -3,8 +3,8 @@
 namespace quillet {
 
 const char* Failure::what() const noexcept {
-    if (!detail_.empty()) return detail_.c_str();
-    switch (number_) {
+    if (!m_detail.empty()) return m_detail.c_str();
+    switch (m_number) {
         case errInvalidCall: return "Invalid procedure call or argument";
         case errOverflow: return "Overflow";
         case errSubscript: return "Subscript out of range";

@@ -40,15 +40,15 @@ inline constexpr Long errPlatform = 5;        // a refusing platform or host cal
 // error number; what() its usual English description.
 class Failure : public std::exception {
 public:
-    explicit Failure(Long number) noexcept : number_(number) {}
-    Failure(Long number, std::string detail) : number_(number), detail_(std::move(detail)) {}
+    explicit Failure(Long number) noexcept : m_number(number) {}
+    Failure(Long number, std::string detail) : m_number(number), m_detail(std::move(detail)) {}
 
-    [[nodiscard]] Long number() const noexcept { return number_; }
+    [[nodiscard]] Long number() const noexcept { return m_number; }
     [[nodiscard]] const char* what() const noexcept override;
 
 private:
-    Long number_;
-    std::string detail_;
+    Long m_number;
+    std::string m_detail;
 };
 
 // attempt - continue-on-failure for one statement: runs `statement`; a failure

@@ -125,8 +125,9 @@ NumberScan radixNumber(StringView text, std::size_t pos, int radix, const Number
         scan.status = NumberScanStatus::OutOfRange;
     } else {
         scan.status = NumberScanStatus::Number;
-        scan.value = value <= 0xFFFF ? static_cast<Double>(static_cast<std::int16_t>(value))
-                                     : static_cast<Double>(static_cast<std::int32_t>(static_cast<std::uint32_t>(value)));
+        scan.value = value <= 0xFFFF
+                         ? static_cast<Double>(static_cast<std::int16_t>(value))
+                         : static_cast<Double>(static_cast<std::int32_t>(static_cast<std::uint32_t>(value)));
     }
     return scan;
 }
@@ -216,7 +217,8 @@ NumberScan scanNumber(StringView text, const NumberScanOptions& options) noexcep
     try {
         if (options.radix && i + 1 < n && text[i] == u'&' && radixOf(text[i + 1]) != 0) {
             scan = radixNumber(text, i + 2, radixOf(text[i + 1]), options);
-        } else if (options.wholeText && options.radix && i < n && text[i] == u'&' && trimmedEnd(text, options) - i > 2) {
+        } else if (options.wholeText && options.radix && i < n && text[i] == u'&' &&
+                   trimmedEnd(text, options) - i > 2) {
             // An ampersand that opens no radix form is no number, whatever the
             // decimal separator is.
             return {NumberScanStatus::NoNumber, 0.0, i};

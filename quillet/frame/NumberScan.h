@@ -60,8 +60,8 @@ struct NumberScanOptions {
     // regionalSeparator - the decimal separator is the one of the current
     // regional settings (any length); otherwise the point.
     bool regionalSeparator = false;
-    bool exponent = true;   // E or D, then an optional sign and digits
-    bool radix = true;      // "&H" hexadecimal, "&O" octal
+    bool exponent = true;    // E or D, then an optional sign and digits
+    bool radix = true;       // "&H" hexadecimal, "&O" octal
     bool wholeText = false;  // anything but blanks after the number makes it NoNumber
 };
 

@@ -22,14 +22,22 @@ TEST(NumberScan, HeaderExamplesWithTheirEnds) {
         std::size_t end;
     };
     const Row rows[] = {
-        {u"12.5kg", &PREFIX_SCAN, Number, 12.5, 4},   {u"1 000", &PREFIX_SCAN, Number, 1000, 5},
-        {u"1e", &PREFIX_SCAN, Number, 1, 1},          {u"1e-x", &PREFIX_SCAN, Number, 1, 1},
-        {u"1 e 3x", &PREFIX_SCAN, Number, 1000, 5},   {u"abc", &PREFIX_SCAN, NoNumber, 0, 0},
-        {u"&HFFFF", &PREFIX_SCAN, Number, -1, 6},     {u"&O19", &PREFIX_SCAN, Number, 1, 3},
-        {u"1e400", &PREFIX_SCAN, OutOfRange, 0, 5},   {u"1e-400", &PREFIX_SCAN, Number, 0, 6},
-        {u" 2.5 ", &STRICT_SCAN, Number, 2.5, 5},     {u"2.5kg", &STRICT_SCAN, NoNumber, 0, 3},
-        {u"1 000", &STRICT_SCAN, NoNumber, 0, 1},     {u"&H123456789", &STRICT_SCAN, OutOfRange, 0, 11},
-        {u"&H12345678x", &STRICT_SCAN, NoNumber, 0, 10}, {u"-&H5", &PREFIX_SCAN, NoNumber, 0, 1},
+        {u"12.5kg", &PREFIX_SCAN, Number, 12.5, 4},
+        {u"1 000", &PREFIX_SCAN, Number, 1000, 5},
+        {u"1e", &PREFIX_SCAN, Number, 1, 1},
+        {u"1e-x", &PREFIX_SCAN, Number, 1, 1},
+        {u"1 e 3x", &PREFIX_SCAN, Number, 1000, 5},
+        {u"abc", &PREFIX_SCAN, NoNumber, 0, 0},
+        {u"&HFFFF", &PREFIX_SCAN, Number, -1, 6},
+        {u"&O19", &PREFIX_SCAN, Number, 1, 3},
+        {u"1e400", &PREFIX_SCAN, OutOfRange, 0, 5},
+        {u"1e-400", &PREFIX_SCAN, Number, 0, 6},
+        {u" 2.5 ", &STRICT_SCAN, Number, 2.5, 5},
+        {u"2.5kg", &STRICT_SCAN, NoNumber, 0, 3},
+        {u"1 000", &STRICT_SCAN, NoNumber, 0, 1},
+        {u"&H123456789", &STRICT_SCAN, OutOfRange, 0, 11},
+        {u"&H12345678x", &STRICT_SCAN, NoNumber, 0, 10},
+        {u"-&H5", &PREFIX_SCAN, NoNumber, 0, 1},
     };
     for (const Row& r : rows) {
         const NumberScan scan = scanNumber(r.text, *r.options);

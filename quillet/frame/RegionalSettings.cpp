@@ -17,10 +17,10 @@ const RegionalSettings& RegionalSettings::current() noexcept { return threadSett
 
 void RegionalSettings::setCurrent(RegionalSettings settings) { threadSettings() = std::move(settings); }
 
-RegionalScope::RegionalScope(RegionalSettings settings) : previous_(std::move(threadSettings())) {
+RegionalScope::RegionalScope(RegionalSettings settings) : m_previous(std::move(threadSettings())) {
     threadSettings() = std::move(settings);
 }
 
-RegionalScope::~RegionalScope() { threadSettings() = std::move(previous_); }
+RegionalScope::~RegionalScope() { threadSettings() = std::move(m_previous); }
 
 }  // namespace quillet

@@ -75,7 +75,7 @@ public:
     RegionalScope& operator=(const RegionalScope&) = delete;
 
 private:
-    RegionalSettings previous_;
+    RegionalSettings m_previous;
 };
 
 }  // namespace quillet

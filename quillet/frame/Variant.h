@@ -17,8 +17,9 @@
 // A Variant owns its value; copies are deep, except for an object, which is a
 // shared reference. Conversions to numbers and text, which follow the regional
 // settings, are in convert.h; comparison of values as the host language does
-// it is a job for the members that need it. operator== here is plain
-// structural equality (same kind, same value), meant for tests and containers.
+// it (<, =, > with Null and Empty) is compareVariants in VariantCompare.h.
+// operator== here is plain structural equality (same kind, same value), meant
+// for tests and containers.
 #pragma once
 
 #include <memory>
@@ -55,21 +56,21 @@ class Variant {
 public:
     // construction
     Variant() noexcept = default;  // Empty
-    Variant(Integer v) : value_(v) {}
-    Variant(Long v) : value_(v) {}
-    Variant(Single v) : value_(v) {}
-    Variant(Double v) : value_(v) {}
-    Variant(Date v) : value_(v) {}
+    Variant(Integer v) : m_value(v) {}
+    Variant(Long v) : m_value(v) {}
+    Variant(Single v) : m_value(v) {}
+    Variant(Double v) : m_value(v) {}
+    Variant(Date v) : m_value(v) {}
     // Out of line: inlined, g++ 12 warns of an uninitialized string in the move.
     Variant(String v);
     Variant(StringView v);
     Variant(const char16_t* v);
-    Variant(Boolean v) : value_(v) {}
-    Variant(bool v) : value_(Boolean(v)) {}
-    Variant(Byte v) : value_(v) {}
-    Variant(std::nullptr_t) : value_(ObjectRef{}) {}  // an object kind holding Nothing
+    Variant(Boolean v) : m_value(v) {}
+    Variant(bool v) : m_value(Boolean(v)) {}
+    Variant(Byte v) : m_value(v) {}
+    Variant(std::nullptr_t) : m_value(ObjectRef{}) {}  // an object kind holding Nothing
     template <class T>
-    Variant(std::shared_ptr<T> object) : value_(ObjectRef{std::move(object), typeid(T)}) {}
+    Variant(std::shared_ptr<T> object) : m_value(ObjectRef{std::move(object), typeid(T)}) {}
     Variant(Array<Integer> v);
     Variant(Array<Long> v);
     Variant(Array<Single> v);
@@ -87,12 +88,12 @@ public:
     // queries
     // kind - the kind code; vbArray plus the element's code for an array.
     [[nodiscard]] Integer kind() const noexcept;
-    [[nodiscard]] bool isEmpty() const noexcept { return value_.index() == 0; }
-    [[nodiscard]] bool isNull() const noexcept { return value_.index() == 1; }
+    [[nodiscard]] bool isEmpty() const noexcept { return m_value.index() == 0; }
+    [[nodiscard]] bool isNull() const noexcept { return m_value.index() == 1; }
     [[nodiscard]] bool isMissing() const noexcept;
     [[nodiscard]] bool isArray() const noexcept { return kind() >= vbArray; }
-    [[nodiscard]] bool isObject() const noexcept { return std::holds_alternative<ObjectRef>(value_); }
-    [[nodiscard]] bool isString() const noexcept { return std::holds_alternative<String>(value_); }
+    [[nodiscard]] bool isObject() const noexcept { return std::holds_alternative<ObjectRef>(m_value); }
+    [[nodiscard]] bool isString() const noexcept { return std::holds_alternative<String>(m_value); }
     // isNothing - an object kind that holds no object.
     [[nodiscard]] bool isNothing() const noexcept;
 
@@ -100,11 +101,11 @@ public:
     // the value types above, ObjectRef, ErrorValue or an Array<...>.
     template <class T>
     [[nodiscard]] const T* getIf() const noexcept {
-        return std::get_if<T>(&value_);
+        return std::get_if<T>(&m_value);
     }
     template <class T>
     [[nodiscard]] T* getIf() noexcept {
-        return std::get_if<T>(&value_);
+        return std::get_if<T>(&m_value);
     }
 
     // object - the held object as a T; Nothing when it holds another type or
@@ -120,7 +121,7 @@ public:
     // visit - calls f with the held alternative (see Storage).
     template <class F>
     decltype(auto) visit(F&& f) const {
-        return std::visit(std::forward<F>(f), value_);
+        return std::visit(std::forward<F>(f), m_value);
     }
 
     friend bool operator==(const Variant& a, const Variant& b);
@@ -137,7 +138,7 @@ public:
                                  Array<Date>, Array<String>, Array<Boolean>, Array<Byte>, Array<Variant>>;
 
 private:
-    Storage value_;
+    Storage m_value;
 };
 
 }  // namespace quillet
