@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "quillet_test.h"
+
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/convert.h"
 #include "quillet/frame/print.h"
@@ -13,15 +15,6 @@ struct Thing {
     int n = 0;
 };
 struct Other {};
-
-Long failureNumber(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const Failure& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 TEST(Variant, EveryKindHasItsCode) {
     struct Row {
@@ -79,7 +72,7 @@ TEST(Variant, CopiesAreDeepButObjectsAreShared) {
     o2.object<Thing>()->n = 5;
     EXPECT_EQ(thing->n, 5);
     EXPECT_EQ(o.object<Other>(), nullptr);  // asked as the wrong type: Nothing
-    EXPECT_EQ(failureNumber([] { (void)Variant(1).object<Thing>(); }), errTypeMismatch);
+    EXPECT_FAILURE((void)Variant(1).object<Thing>(), errTypeMismatch);
 }
 
 TEST(Variant, ConversionsFollowTheHostLanguage) {
@@ -91,25 +84,25 @@ TEST(Variant, ConversionsFollowTheHostLanguage) {
     EXPECT_EQ(toText(Variant(Integer{-3})), u"-3");
     EXPECT_EQ(toText(Variant(0.1f)), u"0.1");  // 7 digits for a Single
     EXPECT_EQ(toText(Variant(Byte{255})), u"255");
-    EXPECT_EQ(failureNumber([] { (void)toText(Variant::null()); }), errInvalidNull);
-    EXPECT_EQ(failureNumber([] { (void)toText(Variant(std::make_shared<Thing>())); }), errTypeMismatch);
-    EXPECT_EQ(failureNumber([] { (void)toText(Variant(Array<Long>())); }), errTypeMismatch);
+    EXPECT_FAILURE((void)toText(Variant::null()), errInvalidNull);
+    EXPECT_FAILURE((void)toText(Variant(std::make_shared<Thing>())), errTypeMismatch);
+    EXPECT_FAILURE((void)toText(Variant(Array<Long>())), errTypeMismatch);
 
     EXPECT_EQ(toDouble(Variant()), 0.0);
     EXPECT_EQ(toDouble(Variant(True)), -1.0);
     EXPECT_EQ(toDouble(Variant(u" 2.5 ")), 2.5);
-    EXPECT_EQ(failureNumber([] { (void)toDouble(Variant(u"2.5kg")); }), errTypeMismatch);
-    EXPECT_EQ(failureNumber([] { (void)toDouble(Variant::null()); }), errInvalidNull);
-    EXPECT_EQ(failureNumber([] { (void)toDouble(Variant(u"1e999")); }), errOverflow);
+    EXPECT_FAILURE((void)toDouble(Variant(u"2.5kg")), errTypeMismatch);
+    EXPECT_FAILURE((void)toDouble(Variant::null()), errInvalidNull);
+    EXPECT_FAILURE((void)toDouble(Variant(u"1e999")), errOverflow);
     EXPECT_EQ(toLong(Variant(u"2.5")), 2);
     EXPECT_EQ(toLong(Variant(u"3.5")), 4);
-    EXPECT_EQ(failureNumber([] { (void)toInteger(Variant(40000)); }), errOverflow);
+    EXPECT_FAILURE((void)toInteger(Variant(40000)), errOverflow);
     EXPECT_EQ(toBoolean(Variant(u"tRUE")), True);
     EXPECT_EQ(toBoolean(Variant(u"0")), False);
     EXPECT_EQ(toBoolean(Variant(0.5)), True);
-    EXPECT_EQ(failureNumber([] { (void)toBoolean(Variant(u"yes")); }), errTypeMismatch);
+    EXPECT_FAILURE((void)toBoolean(Variant(u"yes")), errTypeMismatch);
     EXPECT_EQ(toDate(Variant(2.25)).serial, 2.25);
-    EXPECT_EQ(failureNumber([] { (void)toDate(Variant(3e6)); }), errOverflow);
+    EXPECT_FAILURE((void)toDate(Variant(3e6)), errOverflow);
 
     EXPECT_TRUE(isNumeric(Variant()));
     EXPECT_TRUE(isNumeric(Variant(u"-1.5E3")));
