@@ -33,6 +33,9 @@
 //
 //   parseNumber(u" 2.5 ")     2.5       parseNumber(u"2.5kg")     throws
 //   under a German profile parseNumber(u"2,5") is 2.5 and parseNumber(u"2.5") throws
+//
+// Both readings are scanNumber of NumberScan.h with the options PREFIX_SCAN
+// and STRICT_SCAN; a reader that needs another mix of them calls it there.
 #pragma once
 
 #include <optional>

@@ -13,6 +13,11 @@ String foldCase(StringView text) {
     String out(text);
     const int32_t n = static_cast<int32_t>(out.size());
     for (int32_t i = 0; i < n;) {
+        if (out[i] < 0x80) {  // ASCII, the common case, without a table look-up
+            if (out[i] >= u'A' && out[i] <= u'Z') out[i] += 32;
+            ++i;
+            continue;
+        }
         const int32_t start = i;
         UChar32 c;
         U16_NEXT(out.data(), i, n, c);
