@@ -92,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<Entry> model;
     for (Long step = 0; in.more(); ++step) {
         const std::uint8_t op = in.next() % 6;
-        if (op <= 2 || op == 3) {  // Add, with a key for 0-2, at the end or before or after an index
+        if (op <= 3) {  // Add, with a key for 0-2, at the end or before or after an index
             const bool keyed = op != 3;
             const String key = keyed ? keyFrom(in) : String();
             const std::uint8_t where = in.next() % 3;
@@ -109,7 +109,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             }
             const Long got = errorOf([&] { c.Add(step, keyed ? Variant(key) : Variant::missing(), before, after); });
             check(got == expected);
-            if (got == 0) model.insert(model.begin() + at, Entry{keyed ? std::optional(foldCase(key)) : std::nullopt, step});
+            if (got == 0)
+                model.insert(model.begin() + at, Entry{keyed ? std::optional(foldCase(key)) : std::nullopt, step});
         } else {
             const Variant index = indexFrom(in, model);
             const Place place = placeOf(model, index);

@@ -27,6 +27,7 @@ TEST(NumberScan, HeaderExamplesWithTheirEnds) {
         {u"1e", &PREFIX_SCAN, Number, 1, 1},
         {u"1e-x", &PREFIX_SCAN, Number, 1, 1},
         {u"1 e 3x", &PREFIX_SCAN, Number, 1000, 5},
+        {u"1e - 3", &PREFIX_SCAN, Number, 0.001, 6},
         {u"abc", &PREFIX_SCAN, NoNumber, 0, 0},
         {u"&HFFFF", &PREFIX_SCAN, Number, -1, 6},
         {u"&O19", &PREFIX_SCAN, Number, 1, 3},
