@@ -154,6 +154,29 @@ TEST(Collection, AgreesWithAPlainListOverManyOperations) {
     }
 }
 
+// Many small collections, each with its index half full, as full as it gets,
+// emptied in a scrambled order: some runs of the index wrap around its end,
+// and every key left must still be found after each removal.
+TEST(Collection, KeysStayFoundWhileOthersAreRemoved) {
+    constexpr Long n = 64;
+    for (Long round = 0; round < 300; ++round) {
+        const String prefix = u"R" + numberText(round) + u"-";
+        Collection c;
+        for (Long i = 0; i < n; ++i) c.Add(i, prefix + numberText(i));
+        std::vector<bool> gone(n, false);
+        for (Long r = 0; r < n; ++r) {
+            const Long k = r * (2 * round + 1) % n;  // an odd step visits every key once
+            c.Remove(prefix + numberText(k));
+            gone[static_cast<std::size_t>(k)] = true;
+            for (Long i = 0; i < n; ++i) {
+                if (!gone[static_cast<std::size_t>(i)])
+                    ASSERT_EQ(c.Item(prefix + numberText(i)), Variant(i)) << toUtf8(prefix) << " after " << r + 1;
+            }
+        }
+        EXPECT_EQ(c.Count(), 0);
+    }
+}
+
 TEST(Array, BoundsAnyLowerAndUnallocated) {
     Array<String> unallocated;
     EXPECT_FALSE(unallocated.isAllocated());
