@@ -169,8 +169,8 @@ TEST(Collection, KeysStayFoundWhileOthersAreRemoved) {
             c.Remove(prefix + numberText(k));
             gone[static_cast<std::size_t>(k)] = true;
             for (Long i = 0; i < n; ++i) {
-                if (!gone[static_cast<std::size_t>(i)])
-                    ASSERT_EQ(c.Item(prefix + numberText(i)), Variant(i)) << toUtf8(prefix) << " after " << r + 1;
+                if (gone[static_cast<std::size_t>(i)]) continue;
+                ASSERT_EQ(c.Item(prefix + numberText(i)), Variant(i)) << toUtf8(prefix) << " after " << r + 1;
             }
         }
         EXPECT_EQ(c.Count(), 0);
