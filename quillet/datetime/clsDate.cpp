@@ -3,6 +3,7 @@
 #include <unicode/unistr.h>
 
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/DateText.h"
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/RegionalSettings.h"
@@ -10,7 +11,6 @@
 #include "quillet/frame/checked.h"
 #include "quillet/frame/convert.h"
 #include "quillet/frame/trim.h"
-#include "quillet/platform/Clock.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {

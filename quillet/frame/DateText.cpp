@@ -11,13 +11,13 @@
 #include <vector>
 
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/TextCompare.h"
 #include "quillet/frame/chars.h"
 #include "quillet/frame/convert.h"
-#include "quillet/platform/Clock.h"
 
 namespace quillet {
 

@@ -5,10 +5,10 @@
 #include "quillet_test.h"
 
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/utf8.h"
-#include "quillet/platform/Clock.h"
 
 namespace quillet {
 namespace {

@@ -1,4 +1,4 @@
-#include "quillet/platform/Clock.h"
+#include "quillet/frame/Clock.h"
 
 #include <algorithm>
 #include <ctime>
@@ -36,10 +36,10 @@ Date Clock::today() {
     return calendar::fromDayAndTime(calendar::dayIndex(n), 0.0);
 }
 
-ClockScope::ClockScope(Date fixed) : hadPrevious_(fixedClock().active), previous_(fixedClock().value) {
+ClockScope::ClockScope(Date fixed) : m_hadPrevious(fixedClock().active), m_previous(fixedClock().value) {
     fixedClock() = {true, fixed};
 }
 
-ClockScope::~ClockScope() { fixedClock() = {hadPrevious_, previous_}; }
+ClockScope::~ClockScope() { fixedClock() = {m_hadPrevious, m_previous}; }
 
 }  // namespace quillet
