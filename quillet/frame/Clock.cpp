@@ -28,7 +28,7 @@ Date Clock::now() {
     localtime_r(&t, &local);
     const double day = calendar::dateSerial(local.tm_year + 1900LL, local.tm_mon + 1LL, local.tm_mday).serial;
     const int second = std::min(local.tm_sec, 59);  // a leap second counts as the last one
-    return Date(day + (local.tm_hour * 3600.0 + local.tm_min * 60.0 + second) / 86400.0);
+    return Date(day + calendar::timeFraction(local.tm_hour, local.tm_min, second));
 }
 
 Date Clock::today() {

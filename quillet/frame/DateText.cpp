@@ -288,37 +288,15 @@ struct Moment {
     Date value;
     calendar::DateParts parts;
     std::int64_t day;  // calendar day after the time was rounded
-    int secondOfDay;
+    int secondOfDay;   // 0 .. 86399
 };
 
 Moment momentOf(Date value) {
-    Moment m{value, calendar::split(value), calendar::dayIndex(value), calendar::secondOfDay(value)};
-    if (m.secondOfDay >= 86400) {
-        m.secondOfDay -= 86400;
-        ++m.day;
-    }
-    return m;
+    const calendar::DaySecond ds = calendar::daySecond(value);
+    return {value, calendar::split(ds), ds.day, ds.second};
 }
 
 int sundayWeekday(const Moment& m) { return calendar::weekday(Date(static_cast<double>(m.day)), vbSunday); }
-
-int weekNumber(const Moment& m, VbDayOfWeek firstDay, VbFirstWeekOfYear firstWeek) {
-    const Date day(static_cast<double>(m.day));
-    const int doy = calendar::dayOfYear(day);
-    const Date jan1 = calendar::dateSerial(m.parts.year, 1, 1);
-    const int wd1 = calendar::weekday(jan1, firstDay);
-    if (firstWeek == vbFirstFourDays || firstWeek == vbFirstFullWeek) {
-        // Days of the year before week 1 starts; they belong to the last
-        // week of the year before.
-        const int offset = firstWeek == vbFirstFullWeek ? (wd1 == 1 ? 0 : 8 - wd1) : (wd1 <= 4 ? 1 - wd1 : 8 - wd1);
-        if (doy - 1 < offset) {
-            if (m.parts.year <= 100) return 52;
-            return weekNumber(momentOf(Date(jan1.serial - 1.0)), firstDay, firstWeek);
-        }
-        return (doy - 1 - offset) / 7 + 1;
-    }
-    return (doy - 1 + wd1 - 1) / 7 + 1;
-}
 
 void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firstDay, VbFirstWeekOfYear firstWeek);
 
@@ -379,7 +357,7 @@ void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firs
             case Tok::WeekDay:
                 appendNumber(out, calendar::weekday(Date(static_cast<double>(m.day)), firstDay), 1);
                 break;
-            case Tok::WeekOfYear: appendNumber(out, weekNumber(m, firstDay, firstWeek), 1); break;
+            case Tok::WeekOfYear: appendNumber(out, calendar::weekOfYear(m.value, firstDay, firstWeek), 1); break;
             case Tok::Quarter: appendNumber(out, (p.month - 1) / 3 + 1, 1); break;
         }
     }
@@ -590,7 +568,7 @@ std::optional<Date> readText(StringView text) {
         year = *y;
     } else if (numbers.empty()) {
         if (!hasTime) return std::nullopt;
-        return calendar::fromDayAndTime(0, (hour * 3600.0 + minute * 60.0 + second) / 86400.0);
+        return calendar::fromDayAndTime(0, calendar::timeFraction(hour, minute, second));
     } else if (numbers.size() == 1) {
         return std::nullopt;
     } else {
@@ -634,7 +612,7 @@ std::optional<Date> readText(StringView text) {
         if (!validDate(year, month, day)) return std::nullopt;
     }
     const Date date = calendar::dateSerial(year, month, day);
-    return calendar::fromDayAndTime(calendar::dayIndex(date), (hour * 3600.0 + minute * 60.0 + second) / 86400.0);
+    return calendar::fromDayAndTime(calendar::dayIndex(date), calendar::timeFraction(hour, minute, second));
 }
 
 }  // namespace
