@@ -1,22 +1,19 @@
 // The host date formatter works in two stages: a format is tokenized once
-// (the last few per thread are kept, since the same formats come back all the
-// time) and the tokens are rendered for each value. The profile's own
-// patterns, written in the system picture language, are tokenized the same
-// way into the same tokens.
+// (the last few short ones per thread are kept, since the same formats come
+// back all the time) and the tokens are rendered for each value. The
+// profile's own patterns, written in the system picture language, are
+// tokenized the same way into the same tokens. Both tokenizers take each run
+// of one letter once, so a format costs time in proportion to its length.
 #include "quillet/frame/DateText.h"
 
 #include <array>
-#include <cmath>
 #include <memory>
 #include <vector>
 
 #include "quillet/frame/Calendar.h"
-#include "quillet/frame/Clock.h"
 #include "quillet/frame/Failure.h"
-#include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/TextCompare.h"
-#include "quillet/frame/chars.h"
 #include "quillet/frame/convert.h"
 
 namespace quillet {
@@ -93,6 +90,67 @@ std::size_t runLength(StringView text, std::size_t at, bool ignoreCase) noexcept
     return n;
 }
 
+// The item that the letter `lc` at `i` starts, `run` letters of it left;
+// adds its token and gives how many letters it took.
+std::size_t addLetterItem(Tokens& tokens, StringView f, std::size_t i, char16_t lc, std::size_t run) {
+    std::size_t used = 1;
+    switch (lc) {
+        case u'd': {
+            static constexpr Tok kinds[] = {Tok::Day,     Tok::Day2,      Tok::DayAbbr,
+                                            Tok::DayName, Tok::ShortDate, Tok::LongDate};
+            used = std::min<std::size_t>(run, 6);
+            add(tokens, kinds[used - 1]);
+            break;
+        }
+        case u'm': {
+            static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
+            used = std::min<std::size_t>(run, 4);
+            Tok kind = kinds[used - 1];
+            if (used <= 2) {
+                // Minutes when an hour stands straight before, a colon allowed between.
+                std::size_t k = tokens.size();
+                while (k > 0 && tokens[k - 1].kind == Tok::TimeSep) --k;
+                if (k > 0 && (tokens[k - 1].kind == Tok::Hour24 || tokens[k - 1].kind == Tok::Hour24_2))
+                    kind = used == 1 ? Tok::Minute : Tok::Minute2;
+            }
+            add(tokens, kind);
+            break;
+        }
+        case u'y':
+            used = run >= 4 ? 4 : run >= 2 ? 2 : 1;
+            add(tokens, used == 4 ? Tok::Year4 : used == 2 ? Tok::Year2 : Tok::DayOfYear);
+            break;
+        case u'h':
+            used = std::min<std::size_t>(run, 2);
+            add(tokens, used == 1 ? Tok::Hour24 : Tok::Hour24_2);
+            break;
+        case u'n':
+            used = std::min<std::size_t>(run, 2);
+            add(tokens, used == 1 ? Tok::Minute : Tok::Minute2);
+            break;
+        case u's':
+            used = std::min<std::size_t>(run, 2);
+            add(tokens, used == 1 ? Tok::Second : Tok::Second2);
+            break;
+        case u'w':
+            used = std::min<std::size_t>(run, 2);
+            add(tokens, used == 1 ? Tok::WeekDay : Tok::WeekOfYear);
+            break;
+        case u'q': add(tokens, Tok::Quarter); break;
+        case u'c': add(tokens, Tok::GeneralDate); break;
+        case u't':
+            if (run >= 5) {
+                used = 5;
+                add(tokens, Tok::LongTime);
+            } else {
+                addLiteral(tokens, f.substr(i, 1));
+            }
+            break;
+        default: addLiteral(tokens, f.substr(i, 1)); break;
+    }
+    return used;
+}
+
 // The host language's format: letters in any case, "literal", \x.
 Tokens tokenizeHost(StringView f) {
     Tokens tokens;
@@ -142,63 +200,13 @@ Tokens tokenizeHost(StringView f) {
             }
             continue;
         }
-        const std::size_t run = runLength(f, i, true);
-        std::size_t used = 1;
-        switch (lc) {
-            case u'd': {
-                static constexpr Tok kinds[] = {Tok::Day,     Tok::Day2,      Tok::DayAbbr,
-                                                Tok::DayName, Tok::ShortDate, Tok::LongDate};
-                used = std::min<std::size_t>(run, 6);
-                add(tokens, kinds[used - 1]);
-                break;
-            }
-            case u'm': {
-                static constexpr Tok kinds[] = {Tok::Month, Tok::Month2, Tok::MonthAbbr, Tok::MonthName};
-                used = std::min<std::size_t>(run, 4);
-                Tok kind = kinds[used - 1];
-                if (used <= 2) {
-                    // Minutes when an hour stands straight before, a colon allowed between.
-                    std::size_t k = tokens.size();
-                    while (k > 0 && tokens[k - 1].kind == Tok::TimeSep) --k;
-                    if (k > 0 && (tokens[k - 1].kind == Tok::Hour24 || tokens[k - 1].kind == Tok::Hour24_2))
-                        kind = used == 1 ? Tok::Minute : Tok::Minute2;
-                }
-                add(tokens, kind);
-                break;
-            }
-            case u'y':
-                used = run >= 4 ? 4 : run >= 2 ? 2 : 1;
-                add(tokens, used == 4 ? Tok::Year4 : used == 2 ? Tok::Year2 : Tok::DayOfYear);
-                break;
-            case u'h':
-                used = std::min<std::size_t>(run, 2);
-                add(tokens, used == 1 ? Tok::Hour24 : Tok::Hour24_2);
-                break;
-            case u'n':
-                used = std::min<std::size_t>(run, 2);
-                add(tokens, used == 1 ? Tok::Minute : Tok::Minute2);
-                break;
-            case u's':
-                used = std::min<std::size_t>(run, 2);
-                add(tokens, used == 1 ? Tok::Second : Tok::Second2);
-                break;
-            case u'w':
-                used = std::min<std::size_t>(run, 2);
-                add(tokens, used == 1 ? Tok::WeekDay : Tok::WeekOfYear);
-                break;
-            case u'q': add(tokens, Tok::Quarter); break;
-            case u'c': add(tokens, Tok::GeneralDate); break;
-            case u't':
-                if (run >= 5) {
-                    used = 5;
-                    add(tokens, Tok::LongTime);
-                } else {
-                    addLiteral(tokens, f.substr(i, 1));
-                }
-                break;
-            default: addLiteral(tokens, f.substr(i, 1)); break;
+        // The run is measured once and taken apart into its items, the
+        // longest first: "ddddddd" is the long date and then the day.
+        for (std::size_t run = runLength(f, i, true); run > 0;) {
+            const std::size_t used = addLetterItem(tokens, f, i, lc, run);
+            i += used;
+            run -= used;
         }
-        i += used;
     }
     if (twelveHour)
         for (Token& t : tokens) {
@@ -248,7 +256,9 @@ Tokens tokenizePicture(StringView f) {
     return tokens;
 }
 
-// The last few tokenized formats of this thread, replaced in turn.
+// The last few tokenized formats of this thread, replaced in turn. A long
+// format is tokenized for its one call and not kept: a host that lets users
+// type formats must not hold on to the largest one typed.
 std::shared_ptr<const Tokens> tokensFor(StringView format, bool picture) {
     struct Entry {
         bool picture = false;
@@ -256,6 +266,9 @@ std::shared_ptr<const Tokens> tokensFor(StringView format, bool picture) {
         std::shared_ptr<const Tokens> tokens;
     };
     constexpr std::size_t CACHE_SIZE = 8;
+    constexpr std::size_t LONGEST_CACHED = 256;
+    if (format.size() > LONGEST_CACHED)
+        return std::make_shared<const Tokens>(picture ? tokenizePicture(format) : tokenizeHost(format));
     thread_local std::array<Entry, CACHE_SIZE> cache;
     thread_local std::size_t next = 0;
     for (const Entry& e : cache)
@@ -363,258 +376,6 @@ void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firs
     }
 }
 
-// ---------------------------------------------------------------------------
-// Reading
-
-constexpr auto isBlank = chars::isDateBlank;
-constexpr auto isDigit = chars::isAsciiDigit;
-
-StringView trimmed(StringView s) noexcept {
-    while (!s.empty() && isBlank(s.front())) s.remove_prefix(1);
-    while (!s.empty() && isBlank(s.back())) s.remove_suffix(1);
-    return s;
-}
-
-struct Item {
-    enum Kind { Number, Word, TimeSep, Sep };
-    explicit Item(Kind k) : kind(k) {}
-    Kind kind;
-    long long value = 0;
-    int digits = 0;
-    String word;  // folded
-};
-
-struct Year {
-    long long value;
-    int digits;
-};
-
-bool isTimeSeparator(char16_t c, const RegionalSettings& rs) noexcept {
-    if (c == u':') return true;
-    if (rs.timeSeparator.size() != 1) return false;
-    const char16_t t = rs.timeSeparator.front();
-    return c == t && t != u'.' && t != u'/' && t != u'-' && t != u',' && !isBlank(t) && !isDigit(t);
-}
-
-bool isDateSeparator(char16_t c, const RegionalSettings& rs) noexcept {
-    if (isBlank(c) || c == u'/' || c == u'-' || c == u'.' || c == u',') return true;
-    return rs.dateSeparator.size() == 1 && c == rs.dateSeparator.front() && !isDigit(c);
-}
-
-std::optional<std::vector<Item>> scan(StringView text, const RegionalSettings& rs) {
-    std::vector<Item> items;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const char16_t c = text[i];
-        if (isDigit(c)) {
-            Item item{Item::Number};
-            while (i < text.size() && isDigit(text[i])) {
-                if (++item.digits > 9) return std::nullopt;
-                item.value = item.value * 10 + (text[i] - u'0');
-                ++i;
-            }
-            items.push_back(std::move(item));
-        } else if (isTimeSeparator(c, rs)) {
-            items.emplace_back(Item::TimeSep);
-            ++i;
-        } else if (isDateSeparator(c, rs)) {
-            items.emplace_back(Item::Sep);
-            ++i;
-        } else {
-            const std::size_t start = i;
-            while (i < text.size() && !isDigit(text[i]) && !isTimeSeparator(text[i], rs) &&
-                   !isDateSeparator(text[i], rs))
-                ++i;
-            Item item{Item::Word};
-            item.word = foldCase(text.substr(start, i - start));
-            items.push_back(std::move(item));
-        }
-    }
-    return items;
-}
-
-int monthOfName(const String& folded, const RegionalSettings& rs) {
-    for (int k = 0; k < 12; ++k)
-        if (folded == foldCase(rs.monthNames[k]) || folded == foldCase(rs.monthAbbreviations[k])) return k + 1;
-    return 0;
-}
-
-bool isDayName(const String& folded, const RegionalSettings& rs) {
-    for (int k = 0; k < 7; ++k)
-        if (folded == foldCase(rs.dayNames[k]) || folded == foldCase(rs.dayAbbreviations[k])) return true;
-    return false;
-}
-
-// 1 before noon, 2 after, 0 no mark.
-int markOf(const String& folded, const RegionalSettings& rs) {
-    if (folded == u"am" || (!rs.amMark.empty() && folded == foldCase(rs.amMark))) return 1;
-    if (folded == u"pm" || (!rs.pmMark.empty() && folded == foldCase(rs.pmMark))) return 2;
-    return 0;
-}
-
-std::optional<long long> fullYear(const Year& y) {
-    long long v = y.value;
-    if (y.digits <= 2) v += v < 30 ? 2000 : 1900;
-    if (v < 100 || v > 9999) return std::nullopt;
-    return v;
-}
-
-bool validDate(long long y, long long m, long long d) {
-    return m >= 1 && m <= 12 && d >= 1 && d <= calendar::daysInMonth(static_cast<int>(y), static_cast<int>(m));
-}
-
-long long currentYear() { return calendar::split(Clock::today()).year; }
-
-std::optional<Date> readText(StringView text) {
-    text = trimmed(text);
-    if (text.empty()) return std::nullopt;
-    if (auto number = tryParseNumber(text)) {
-        (void)calendar::split(Date(*number));  // fails for a serial that rounds out of the dates
-        return Date(*number);
-    }
-    const RegionalSettings& rs = RegionalSettings::current();
-    const auto scanned = scan(text, rs);
-    if (!scanned) return std::nullopt;
-    const std::vector<Item>& items = *scanned;
-
-    std::vector<const Item*> numbers;
-    int monthName = 0;
-    bool hasTime = false;
-    long long hour = 0, minute = 0, second = 0;
-    int mark = 0;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const Item& it = items[i];
-        switch (it.kind) {
-            case Item::Number: {
-                if (i + 1 < items.size() && items[i + 1].kind == Item::TimeSep) {
-                    if (hasTime || i + 2 >= items.size() || items[i + 2].kind != Item::Number) return std::nullopt;
-                    hasTime = true;
-                    hour = it.value;
-                    minute = items[i + 2].value;
-                    i += 2;
-                    if (i + 2 < items.size() && items[i + 1].kind == Item::TimeSep &&
-                        items[i + 2].kind == Item::Number) {
-                        second = items[i + 2].value;
-                        i += 2;
-                    }
-                    break;
-                }
-                // A lone hour with a mark: "3 PM".
-                std::size_t next = i + 1;
-                if (next < items.size() && items[next].kind == Item::Sep && next + 1 < items.size()) ++next;
-                if (next < items.size() && items[next].kind == Item::Word && markOf(items[next].word, rs) != 0 &&
-                    !hasTime) {
-                    hasTime = true;
-                    hour = it.value;
-                    break;
-                }
-                if (numbers.size() == 3) return std::nullopt;
-                numbers.push_back(&it);
-                break;
-            }
-            case Item::Word: {
-                if (const int month = monthOfName(it.word, rs); month != 0) {
-                    if (monthName != 0) return std::nullopt;
-                    monthName = month;
-                } else if (const int m = markOf(it.word, rs); m != 0) {
-                    if (mark != 0) return std::nullopt;
-                    mark = m;
-                } else if (isDayName(it.word, rs)) {
-                    // weekday names are read over
-                } else if (it.word == u"t" && numbers.size() == 3 && numbers.front()->digits == 4) {
-                    // the T between an ISO date and its time
-                } else {
-                    return std::nullopt;
-                }
-                break;
-            }
-            case Item::TimeSep: return std::nullopt;
-            case Item::Sep: break;
-        }
-    }
-
-    if (mark != 0) {
-        if (!hasTime || hour > 23 || (mark == 1 && hour > 12)) return std::nullopt;
-        if (hour <= 12) {
-            if (hour == 12) hour = 0;
-            if (mark == 2) hour += 12;
-        }
-    }
-    if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
-
-    long long year = 0, month = 0, day = 0;
-    const auto yearOf = [](const Item* n) { return Year{n->value, n->digits}; };
-    const auto isYearLike = [](const Item* n) { return n->digits >= 3 || n->value > 31; };
-    std::optional<long long> y;
-    if (monthName != 0) {
-        month = monthName;
-        if (numbers.empty()) return std::nullopt;
-        if (numbers.size() == 1) {
-            if (isYearLike(numbers[0])) {
-                y = fullYear(yearOf(numbers[0]));
-                day = 1;
-            } else {
-                y = currentYear();
-                day = numbers[0]->value;
-            }
-        } else if (numbers.size() == 2) {
-            const bool yearFirst = isYearLike(numbers[0]);
-            y = fullYear(yearOf(numbers[yearFirst ? 0 : 1]));
-            day = numbers[yearFirst ? 1 : 0]->value;
-        } else {
-            return std::nullopt;
-        }
-        if (!y || !validDate(*y, month, day)) return std::nullopt;
-        year = *y;
-    } else if (numbers.empty()) {
-        if (!hasTime) return std::nullopt;
-        return calendar::fromDayAndTime(0, calendar::timeFraction(hour, minute, second));
-    } else if (numbers.size() == 1) {
-        return std::nullopt;
-    } else {
-        const Item* a = numbers[0];
-        const Item* b = numbers[1];
-        long long first = 0, secondPart = 0;  // month and day in the profile's order
-        if (numbers.size() == 2) {
-            if (isYearLike(b)) {
-                y = fullYear(yearOf(b));
-                first = a->value;
-                secondPart = 1;
-            } else if (isYearLike(a)) {
-                y = fullYear(yearOf(a));
-                first = b->value;
-                secondPart = 1;
-            } else {
-                y = currentYear();
-                const bool dayFirst = rs.dateOrder == DateOrder::DayMonthYear;
-                first = dayFirst ? b->value : a->value;
-                secondPart = dayFirst ? a->value : b->value;
-            }
-        } else {
-            const Item* c = numbers[2];
-            if (isYearLike(a) || rs.dateOrder == DateOrder::YearMonthDay) {
-                y = fullYear(yearOf(a));
-                first = b->value;
-                secondPart = c->value;
-            } else {
-                y = fullYear(yearOf(c));
-                const bool dayFirst = rs.dateOrder == DateOrder::DayMonthYear;
-                first = dayFirst ? b->value : a->value;
-                secondPart = dayFirst ? a->value : b->value;
-            }
-        }
-        if (!y) return std::nullopt;
-        year = *y;
-        month = first;
-        day = secondPart;
-        // An order that is impossible in the profile is read the other way round.
-        if (!validDate(year, month, day)) std::swap(month, day);
-        if (!validDate(year, month, day)) return std::nullopt;
-    }
-    const Date date = calendar::dateSerial(year, month, day);
-    return calendar::fromDayAndTime(calendar::dayIndex(date), calendar::timeFraction(hour, minute, second));
-}
-
 }  // namespace
 
 String formatDate(Date value, StringView format, VbDayOfWeek firstDayOfWeek, VbFirstWeekOfYear firstWeekOfYear) {
@@ -643,19 +404,6 @@ String formatDate(Date value, VbDateTimeFormat named) {
         default: throw Failure(errInvalidCall);
     }
     return out;
-}
-
-std::optional<Date> tryReadDate(StringView text) {
-    try {
-        return readText(text);
-    } catch (...) {
-        return std::nullopt;
-    }
-}
-
-Date readDate(StringView text) {
-    if (auto d = tryReadDate(text)) return *d;
-    throw Failure(errTypeMismatch);
 }
 
 String formatValue(const Variant& value, StringView format) {
