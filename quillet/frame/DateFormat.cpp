@@ -7,6 +7,7 @@
 #include "quillet/frame/DateText.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -58,13 +59,21 @@ enum class Tok : std::uint8_t {
     Quarter,
 };
 
+// One item of a format, written `repeat` times: a run of one letter gives
+// one token however long it is. A literal is the stretch [begin, begin +
+// length) of Tokens::text; a written AM/PM mark is the morning text there and
+// the evening text of the same length straight after it.
 struct Token {
     Tok kind;
-    String text;
-    String text2;
+    std::uint32_t repeat = 1;
+    std::size_t begin = 0;
+    std::size_t length = 0;
 };
 
-using Tokens = std::vector<Token>;
+struct Tokens {
+    std::vector<Token> items;
+    String text;
+};
 
 char16_t lowerAscii(char16_t c) noexcept { return (c >= u'A' && c <= u'Z') ? static_cast<char16_t>(c + 32) : c; }
 
@@ -77,11 +86,23 @@ bool startsWithNoCase(StringView text, std::size_t at, std::u16string_view lower
 
 void addLiteral(Tokens& tokens, StringView text) {
     if (text.empty()) return;
-    if (!tokens.empty() && tokens.back().kind == Tok::Literal) tokens.back().text.append(text);
-    else tokens.push_back({Tok::Literal, String(text), {}});
+    // A literal's text is always the end of Tokens::text, so the next one extends it.
+    if (!tokens.items.empty() && tokens.items.back().kind == Tok::Literal) tokens.items.back().length += text.size();
+    else tokens.items.push_back({Tok::Literal, 1, tokens.text.size(), text.size()});
+    tokens.text.append(text);
 }
 
-void add(Tokens& tokens, Tok kind) { tokens.push_back({kind, {}, {}}); }
+void addMarks(Tokens& tokens, StringView morning, StringView evening) {
+    tokens.items.push_back({Tok::AmPmWritten, 1, tokens.text.size(), morning.size()});
+    tokens.text.append(morning);
+    tokens.text.append(evening);
+}
+
+void add(Tokens& tokens, Tok kind) {
+    if (!tokens.items.empty() && tokens.items.back().kind == kind && tokens.items.back().repeat < UINT32_MAX)
+        ++tokens.items.back().repeat;
+    else tokens.items.push_back({kind});
+}
 
 std::size_t runLength(StringView text, std::size_t at, bool ignoreCase) noexcept {
     const char16_t c = ignoreCase ? lowerAscii(text[at]) : text[at];
@@ -108,9 +129,10 @@ std::size_t addLetterItem(Tokens& tokens, StringView f, std::size_t i, char16_t 
             Tok kind = kinds[used - 1];
             if (used <= 2) {
                 // Minutes when an hour stands straight before, a colon allowed between.
-                std::size_t k = tokens.size();
-                while (k > 0 && tokens[k - 1].kind == Tok::TimeSep) --k;
-                if (k > 0 && (tokens[k - 1].kind == Tok::Hour24 || tokens[k - 1].kind == Tok::Hour24_2))
+                const std::vector<Token>& items = tokens.items;
+                std::size_t k = items.size();
+                if (k > 0 && items[k - 1].kind == Tok::TimeSep) --k;
+                if (k > 0 && (items[k - 1].kind == Tok::Hour24 || items[k - 1].kind == Tok::Hour24_2))
                     kind = used == 1 ? Tok::Minute : Tok::Minute2;
             }
             add(tokens, kind);
@@ -183,11 +205,11 @@ Tokens tokenizeHost(StringView f) {
         }
         if (lc == u'a') {
             if (startsWithNoCase(f, i, u"am/pm")) {
-                tokens.push_back({Tok::AmPmWritten, String(f.substr(i, 2)), String(f.substr(i + 3, 2))});
+                addMarks(tokens, f.substr(i, 2), f.substr(i + 3, 2));
                 twelveHour = true;
                 i += 5;
             } else if (startsWithNoCase(f, i, u"a/p")) {
-                tokens.push_back({Tok::AmPmWritten, String(f.substr(i, 1)), String(f.substr(i + 2, 1))});
+                addMarks(tokens, f.substr(i, 1), f.substr(i + 2, 1));
                 twelveHour = true;
                 i += 3;
             } else if (startsWithNoCase(f, i, u"ampm")) {
@@ -209,7 +231,7 @@ Tokens tokenizeHost(StringView f) {
         }
     }
     if (twelveHour)
-        for (Token& t : tokens) {
+        for (Token& t : tokens.items) {
             if (t.kind == Tok::Hour24) t.kind = Tok::Hour12;
             if (t.kind == Tok::Hour24_2) t.kind = Tok::Hour12_2;
         }
@@ -327,53 +349,70 @@ void renderGeneral(String& out, const Moment& m) {
     if (hasTime || !hasDate) renderPattern(out, rs.longTimePattern, m);
 }
 
-void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firstDay, VbFirstWeekOfYear firstWeek) {
-    const RegionalSettings& rs = RegionalSettings::current();
+// What every token of one rendering shares.
+struct RenderContext {
+    const RegionalSettings& rs;
+    const Moment& m;
+    bool morning;
+    int hour12;
+    VbDayOfWeek firstDay;
+    VbFirstWeekOfYear firstWeek;
+};
+
+void renderToken(String& out, const Tokens& tokens, const Token& t, const RenderContext& c) {
+    const RegionalSettings& rs = c.rs;
+    const Moment& m = c.m;
     const calendar::DateParts& p = m.parts;
-    const bool morning = p.hour < 12;
-    const int hour12 = p.hour % 12 == 0 ? 12 : p.hour % 12;
-    for (const Token& t : tokens) {
-        switch (t.kind) {
-            case Tok::Literal: out.append(t.text); break;
-            case Tok::Day: appendNumber(out, p.day, 1); break;
-            case Tok::Day2: appendNumber(out, p.day, 2); break;
-            case Tok::DayAbbr: out.append(rs.dayAbbreviations[sundayWeekday(m) - 1]); break;
-            case Tok::DayName: out.append(rs.dayNames[sundayWeekday(m) - 1]); break;
-            case Tok::ShortDate: renderPattern(out, rs.shortDatePattern, m); break;
-            case Tok::LongDate: renderPattern(out, rs.longDatePattern, m); break;
-            case Tok::GeneralDate: renderGeneral(out, m); break;
-            case Tok::LongTime: renderPattern(out, rs.longTimePattern, m); break;
-            case Tok::Month: appendNumber(out, p.month, 1); break;
-            case Tok::Month2: appendNumber(out, p.month, 2); break;
-            case Tok::MonthAbbr: out.append(rs.monthAbbreviations[p.month - 1]); break;
-            case Tok::MonthName: out.append(rs.monthNames[p.month - 1]); break;
-            case Tok::DayOfYear: appendNumber(out, calendar::dayOfYear(Date(static_cast<double>(m.day))), 1); break;
-            case Tok::Year2: appendNumber(out, p.year % 100, 2); break;
-            case Tok::Year4: appendNumber(out, p.year, 1); break;
-            case Tok::Hour24: appendNumber(out, p.hour, 1); break;
-            case Tok::Hour24_2: appendNumber(out, p.hour, 2); break;
-            case Tok::Hour12: appendNumber(out, hour12, 1); break;
-            case Tok::Hour12_2: appendNumber(out, hour12, 2); break;
-            case Tok::Minute: appendNumber(out, p.minute, 1); break;
-            case Tok::Minute2: appendNumber(out, p.minute, 2); break;
-            case Tok::Second: appendNumber(out, p.second, 1); break;
-            case Tok::Second2: appendNumber(out, p.second, 2); break;
-            case Tok::AmPmWritten: out.append(morning ? t.text : t.text2); break;
-            case Tok::AmPmProfile: out.append(morning ? rs.amMark : rs.pmMark); break;
-            case Tok::AmPmProfileFirst: {
-                const String& mark = morning ? rs.amMark : rs.pmMark;
-                if (!mark.empty()) out.push_back(mark.front());
-                break;
-            }
-            case Tok::DateSep: out.append(rs.dateSeparator); break;
-            case Tok::TimeSep: out.append(rs.timeSeparator); break;
-            case Tok::WeekDay:
-                appendNumber(out, calendar::weekday(Date(static_cast<double>(m.day)), firstDay), 1);
-                break;
-            case Tok::WeekOfYear: appendNumber(out, calendar::weekOfYear(m.value, firstDay, firstWeek), 1); break;
-            case Tok::Quarter: appendNumber(out, (p.month - 1) / 3 + 1, 1); break;
+    const bool morning = c.morning;
+    const int hour12 = c.hour12;
+    const VbDayOfWeek firstDay = c.firstDay;
+    const VbFirstWeekOfYear firstWeek = c.firstWeek;
+    switch (t.kind) {
+        case Tok::Literal: out.append(tokens.text, t.begin, t.length); break;
+        case Tok::Day: appendNumber(out, p.day, 1); break;
+        case Tok::Day2: appendNumber(out, p.day, 2); break;
+        case Tok::DayAbbr: out.append(rs.dayAbbreviations[sundayWeekday(m) - 1]); break;
+        case Tok::DayName: out.append(rs.dayNames[sundayWeekday(m) - 1]); break;
+        case Tok::ShortDate: renderPattern(out, rs.shortDatePattern, m); break;
+        case Tok::LongDate: renderPattern(out, rs.longDatePattern, m); break;
+        case Tok::GeneralDate: renderGeneral(out, m); break;
+        case Tok::LongTime: renderPattern(out, rs.longTimePattern, m); break;
+        case Tok::Month: appendNumber(out, p.month, 1); break;
+        case Tok::Month2: appendNumber(out, p.month, 2); break;
+        case Tok::MonthAbbr: out.append(rs.monthAbbreviations[p.month - 1]); break;
+        case Tok::MonthName: out.append(rs.monthNames[p.month - 1]); break;
+        case Tok::DayOfYear: appendNumber(out, calendar::dayOfYear(Date(static_cast<double>(m.day))), 1); break;
+        case Tok::Year2: appendNumber(out, p.year % 100, 2); break;
+        case Tok::Year4: appendNumber(out, p.year, 1); break;
+        case Tok::Hour24: appendNumber(out, p.hour, 1); break;
+        case Tok::Hour24_2: appendNumber(out, p.hour, 2); break;
+        case Tok::Hour12: appendNumber(out, hour12, 1); break;
+        case Tok::Hour12_2: appendNumber(out, hour12, 2); break;
+        case Tok::Minute: appendNumber(out, p.minute, 1); break;
+        case Tok::Minute2: appendNumber(out, p.minute, 2); break;
+        case Tok::Second: appendNumber(out, p.second, 1); break;
+        case Tok::Second2: appendNumber(out, p.second, 2); break;
+        case Tok::AmPmWritten: out.append(tokens.text, t.begin + (morning ? 0 : t.length), t.length); break;
+        case Tok::AmPmProfile: out.append(morning ? rs.amMark : rs.pmMark); break;
+        case Tok::AmPmProfileFirst: {
+            const String& mark = morning ? rs.amMark : rs.pmMark;
+            if (!mark.empty()) out.push_back(mark.front());
+            break;
         }
+        case Tok::DateSep: out.append(rs.dateSeparator); break;
+        case Tok::TimeSep: out.append(rs.timeSeparator); break;
+        case Tok::WeekDay: appendNumber(out, calendar::weekday(Date(static_cast<double>(m.day)), firstDay), 1); break;
+        case Tok::WeekOfYear: appendNumber(out, calendar::weekOfYear(m.value, firstDay, firstWeek), 1); break;
+        case Tok::Quarter: appendNumber(out, (p.month - 1) / 3 + 1, 1); break;
     }
+}
+
+void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firstDay, VbFirstWeekOfYear firstWeek) {
+    const int hour = m.parts.hour;
+    const RenderContext context{RegionalSettings::current(),     m,        hour < 12,
+                                hour % 12 == 0 ? 12 : hour % 12, firstDay, firstWeek};
+    for (const Token& t : tokens.items)
+        for (std::uint32_t r = 0; r < t.repeat; ++r) renderToken(out, tokens, t, context);
 }
 
 }  // namespace
