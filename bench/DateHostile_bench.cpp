@@ -137,9 +137,7 @@ String ones(std::size_t chars) {
 
 String dateAndSlashes(std::size_t chars) { return u"1/2/2015" + String(chars - 8, u'/'); }
 
-void Read_Ones(benchmark::State& state) {
-    readRejected(state, ones(static_cast<std::size_t>(state.range(0))), false);
-}
+void Read_Ones(benchmark::State& state) { readRejected(state, ones(static_cast<std::size_t>(state.range(0))), false); }
 
 void Read_DateAndSlashes(benchmark::State& state) {
     readRejected(state, dateAndSlashes(static_cast<std::size_t>(state.range(0))), false);
@@ -155,10 +153,10 @@ constexpr std::int64_t TEXT_1X = 250000;
 
 }  // namespace
 
-#define QUILLET_FORMAT_RUN(name, letter)                                            \
+#define QUILLET_FORMAT_RUN(name, letter)                                          \
     BENCHMARK_CAPTURE(Format_RunOfOneLetter, name, static_cast<char16_t>(letter)) \
-        ->Arg(FORMAT_1X)                                                            \
-        ->Arg(FORMAT_1X * 10)                                                       \
+        ->Arg(FORMAT_1X)                                                          \
+        ->Arg(FORMAT_1X * 10)                                                     \
         ->Arg(FORMAT_1X * 100)
 
 QUILLET_FORMAT_RUN(d, u'd');
