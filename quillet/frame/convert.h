@@ -49,6 +49,6 @@ namespace quillet {
 
 // The range of serials that are dates: 1 January 100 to 31 December 9999.
 inline constexpr double MIN_DATE_SERIAL = calendar::FIRST_SERIAL;
-inline constexpr double MAX_DATE_SERIAL = calendar::LAST_SERIAL + 86399.0 / 86400.0;  // 23:59:59
+inline constexpr double MAX_DATE_SERIAL = calendar::LAST_SERIAL + calendar::timeFraction(23, 59, 59);
 
 }  // namespace quillet
