@@ -71,27 +71,31 @@ bool isDateSeparator(char16_t c, const RegionalSettings& rs) noexcept {
     return rs.dateSeparator.size() == 1 && c == rs.dateSeparator.front() && !isDigit(c);
 }
 
+// Folding keeps lengths, so a name of another length is never folded.
+bool sameFolded(const String& folded, const String& name) {
+    return folded.size() == name.size() && folded == foldCase(name);
+}
+
 int monthOfName(const String& folded, const RegionalSettings& rs) {
     for (int k = 0; k < 12; ++k)
-        if (folded == foldCase(rs.monthNames[k]) || folded == foldCase(rs.monthAbbreviations[k])) return k + 1;
+        if (sameFolded(folded, rs.monthNames[k]) || sameFolded(folded, rs.monthAbbreviations[k])) return k + 1;
     return 0;
 }
 
 bool isDayName(const String& folded, const RegionalSettings& rs) {
     for (int k = 0; k < 7; ++k)
-        if (folded == foldCase(rs.dayNames[k]) || folded == foldCase(rs.dayAbbreviations[k])) return true;
+        if (sameFolded(folded, rs.dayNames[k]) || sameFolded(folded, rs.dayAbbreviations[k])) return true;
     return false;
 }
 
 // 1 before noon, 2 after, 0 no mark.
 int markOf(const String& folded, const RegionalSettings& rs) {
-    if (folded == u"am" || (!rs.amMark.empty() && folded == foldCase(rs.amMark))) return 1;
-    if (folded == u"pm" || (!rs.pmMark.empty() && folded == foldCase(rs.pmMark))) return 2;
+    if (folded == u"am" || (!rs.amMark.empty() && sameFolded(folded, rs.amMark))) return 1;
+    if (folded == u"pm" || (!rs.pmMark.empty() && sameFolded(folded, rs.pmMark))) return 2;
     return 0;
 }
 
-// The longest word the reader knows; folding keeps lengths, so a longer word
-// is unknown without being folded.
+// The longest word the reader knows; a longer one is unknown without being folded.
 std::size_t longestWord(const RegionalSettings& rs) noexcept {
     std::size_t n = 2;  // "am", "pm"
     for (const String& s : rs.monthNames) n = std::max(n, s.size());
@@ -108,7 +112,7 @@ struct Parts {
 
 // The parts of `text`, or none as soon as it can be no date.
 bool cut(StringView text, const RegionalSettings& rs, Parts& parts) {
-    const std::size_t longest = longestWord(rs);
+    std::size_t longest = 0;  // known once the first word comes up
     std::size_t i = 0;
     while (i < text.size()) {
         if (parts.size == MAX_DATE_TEXT_PARTS) return false;
@@ -128,6 +132,7 @@ bool cut(StringView text, const RegionalSettings& rs, Parts& parts) {
             part.kind = Part::Sep;
             ++i;
         } else {
+            if (longest == 0) longest = longestWord(rs);
             const std::size_t start = i;
             while (i < text.size() && !isDigit(text[i]) && !isTimeSeparator(text[i], rs) &&
                    !isDateSeparator(text[i], rs)) {
@@ -138,7 +143,7 @@ bool cut(StringView text, const RegionalSettings& rs, Parts& parts) {
             part.kind = Part::Word;
             part.month = monthOfName(word, rs);
             part.mark = markOf(word, rs);
-            part.dayName = isDayName(word, rs);
+            part.dayName = part.month == 0 && part.mark == 0 && isDayName(word, rs);
             part.isT = word == u"t";
             if (part.month == 0 && part.mark == 0 && !part.dayName && !part.isT) return false;
         }
