@@ -34,7 +34,8 @@ namespace quillet {
 
 // formatDate - `value` written with a host date format; an empty format is
 // the general date. Failure(errOverflow) for a serial outside the years 100
-// to 9999; no format fails.
+// to 9999; no format fails. Time and memory grow in proportion to the
+// format's length, also for formats of one letter repeated many times.
 [[nodiscard]] String formatDate(Date value, StringView format, VbDayOfWeek firstDayOfWeek = vbSunday,
                                 VbFirstWeekOfYear firstWeekOfYear = vbFirstJan1);
 // formatDate - `value` written in a named format of the regional settings;
