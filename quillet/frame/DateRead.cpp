@@ -6,6 +6,7 @@
 // live in a small fixed buffer, and no part but a known word is copied.
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <span>
 
