@@ -10,6 +10,7 @@
 
 #include "quillet/frame/Array.h"
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/Collection.h"
 #include "quillet/frame/DateText.h"
 #include "quillet/frame/Failure.h"
@@ -30,7 +31,6 @@
 #include "quillet/frame/utf8.h"
 
 #include "quillet/platform/Base64.h"
-#include "quillet/platform/Clock.h"
 #include "quillet/platform/CodePage.h"
 #include "quillet/platform/ListControl.h"
 

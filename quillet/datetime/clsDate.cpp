@@ -3,6 +3,7 @@
 #include <unicode/unistr.h>
 
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/DateText.h"
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/RegionalSettings.h"
@@ -10,28 +11,11 @@
 #include "quillet/frame/checked.h"
 #include "quillet/frame/convert.h"
 #include "quillet/frame/trim.h"
-#include "quillet/platform/Clock.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
 
 namespace {
-
-// Every occurrence of `what`, by text comparison, removed. Folding keeps the
-// length, so positions in the folded text hold in the original.
-String removeAllText(const String& text, StringView what) {
-    if (what.empty()) return text;
-    const String foldedText = foldCase(text);
-    const String foldedWhat = foldCase(what);
-    String out;
-    std::size_t at = 0;
-    for (std::size_t hit = foldedText.find(foldedWhat); hit != String::npos; hit = foldedText.find(foldedWhat, at)) {
-        out.append(text, at, hit - at);
-        at = hit + foldedWhat.size();
-    }
-    out.append(text, at);
-    return out;
-}
 
 String upperCase(const String& text) {
     icu::UnicodeString u(reinterpret_cast<const UChar*>(text.data()), static_cast<int32_t>(text.size()));
@@ -135,8 +119,8 @@ String clsDate::getDateSystemFormatFromVBFormat(const String& vb_date_format_) c
 String clsDate::removeWeekdayFromLongDateFormat(const String& date_) const {
     String result = replaceText(trimBlanks(date_), u",", u" ", vbBinaryCompare);
     for (Long i = 1; i <= 7; ++i) {
-        attempt([&] { result = removeAllText(result, weekdayName(i, false, vbUseSystemDayOfWeek)); });
-        attempt([&] { result = removeAllText(result, weekdayName(i, true, vbUseSystemDayOfWeek)); });
+        attempt([&] { result = replaceText(result, weekdayName(i, false, vbUseSystemDayOfWeek), u"", vbTextCompare); });
+        attempt([&] { result = replaceText(result, weekdayName(i, true, vbUseSystemDayOfWeek), u"", vbTextCompare); });
     }
     return result;
 }
@@ -357,7 +341,7 @@ Variant clsDate::variantToTimeStd(const Variant& time_value_, Boolean include_mi
         if (isEmptyValue(time_value_) || isBlankValue(time_value_)) return {};
         if (!containsTimeValue(time_value_, include_midnight_)) return {};
         const Date read = readDate(toText(time_value_));
-        return Variant(calendar::fromDayAndTime(0, calendar::secondOfDay(read) % 86400 / 86400.0));
+        return Variant(calendar::fromDayAndTime(0, calendar::timeFraction(0, 0, calendar::secondOfDay(read) % 86400)));
     });
 }
 

@@ -12,8 +12,8 @@ namespace quillet::calendar {
 
 namespace {
 
-constexpr std::int64_t FIRST_DAY = -657434;
-constexpr std::int64_t LAST_DAY = 2958465;
+constexpr auto FIRST_DAY = static_cast<std::int64_t>(FIRST_SERIAL);
+constexpr auto LAST_DAY = static_cast<std::int64_t>(LAST_SERIAL);
 // Days from 1970-01-01 to 1899-12-30, the zero of Date.
 constexpr std::int64_t EPOCH_OFFSET = -25569;
 
@@ -53,14 +53,16 @@ void checkDay(std::int64_t day) {
 
 std::int64_t serialOfCivil(std::int64_t y, int m, int d) { return daysFromCivil(y, m, d) - EPOCH_OFFSET; }
 
-// The calendar day and rounded second of a serial, the carry applied.
-struct DaySecond {
-    std::int64_t day;
-    int second;
-};
+// A count of seconds as a day and the fraction of it, the day rounded down.
+Date fromTotalSeconds(long long total) {
+    const long long day = total >= 0 ? total / 86400 : -((-total + 86399) / 86400);
+    return fromDayAndTime(day, timeFraction(0, 0, static_cast<double>(total - day * 86400)));
+}
+
+}  // namespace
 
 DaySecond daySecond(Date value) {
-    if (!std::isfinite(value.serial) || value.serial <= FIRST_DAY - 1.0 || value.serial >= LAST_DAY + 1.0)
+    if (!std::isfinite(value.serial) || value.serial <= FIRST_SERIAL - 1.0 || value.serial >= LAST_SERIAL + 1.0)
         throw Failure(errOverflow);
     DaySecond r{dayIndex(value), secondOfDay(value)};
     if (r.second >= 86400) {
@@ -70,8 +72,6 @@ DaySecond daySecond(Date value) {
     checkDay(r.day);
     return r;
 }
-
-}  // namespace
 
 std::int64_t dayIndex(Date value) noexcept {
     if (!std::isfinite(value.serial) || std::fabs(value.serial) > 1e15) return 0;
@@ -89,8 +89,9 @@ std::int64_t totalSeconds(Date value) {
     return ds.day * 86400 + ds.second;
 }
 
-DateParts split(Date value) {
-    const DaySecond ds = daySecond(value);
+DateParts split(Date value) { return split(daySecond(value)); }
+
+DateParts split(DaySecond ds) noexcept {
     const Civil c = civilFromDays(ds.day + EPOCH_OFFSET);
     return {static_cast<int>(c.year), c.month, c.day, ds.second / 3600, ds.second / 60 % 60, ds.second % 60};
 }
@@ -106,7 +107,7 @@ Date fromDayAndTime(std::int64_t day, double fraction) {
 Date fromParts(const DateParts& p) {
     if (p.month < 1 || p.month > 12 || p.day < 1 || p.day > daysInMonth(p.year, p.month)) throw Failure(errOverflow);
     const std::int64_t day = serialOfCivil(p.year, p.month, p.day);
-    return fromDayAndTime(day, (p.hour * 3600.0 + p.minute * 60.0 + p.second) / 86400.0);
+    return fromDayAndTime(day, timeFraction(p.hour, p.minute, p.second));
 }
 
 int daysInMonth(int year, int month) noexcept {
@@ -133,10 +134,7 @@ Date timeSerial(long long hour, long long minute, long long second) {
     constexpr long long LIMIT = 100000000;
     if (std::llabs(hour) > LIMIT || std::llabs(minute) > LIMIT || std::llabs(second) > LIMIT)
         throw Failure(errOverflow);
-    const long long total = hour * 3600 + minute * 60 + second;
-    const long long day = total >= 0 ? total / 86400 : -((-total + 86399) / 86400);
-    const double fraction = static_cast<double>(total - day * 86400) / 86400.0;
-    return fromDayAndTime(day, fraction);
+    return fromTotalSeconds(hour * 3600 + minute * 60 + second);
 }
 
 int weekday(Date value, VbDayOfWeek firstDay) {
@@ -155,10 +153,23 @@ int dayOfYear(Date value) {
     return static_cast<int>(serialOfCivil(p.year, p.month, p.day) - serialOfCivil(p.year, 1, 1)) + 1;
 }
 
-int weekOfYear(Date value, VbDayOfWeek firstDay) {
-    const DateParts p = split(value);
+int weekOfYear(Date value, VbDayOfWeek firstDay, VbFirstWeekOfYear firstWeek) {
+    const DaySecond ds = daySecond(value);
+    const DateParts p = split(ds);
     const Date jan1(static_cast<double>(serialOfCivil(p.year, 1, 1)));
-    return (dayOfYear(value) - 1 + weekday(jan1, firstDay) - 1) / 7 + 1;
+    const int doy = static_cast<int>(ds.day - static_cast<std::int64_t>(jan1.serial)) + 1;
+    const int wd1 = weekday(jan1, firstDay);
+    if (firstWeek == vbFirstFourDays || firstWeek == vbFirstFullWeek) {
+        // Days of the year before week 1 starts; they belong to the last
+        // week of the year before.
+        const int offset = firstWeek == vbFirstFullWeek ? (wd1 == 1 ? 0 : 8 - wd1) : (wd1 <= 4 ? 1 - wd1 : 8 - wd1);
+        if (doy - 1 < offset) {
+            if (p.year <= 100) return 52;
+            return weekOfYear(Date(jan1.serial - 1.0), firstDay, firstWeek);
+        }
+        return (doy - 1 - offset) / 7 + 1;
+    }
+    return (doy - 1 + wd1 - 1) / 7 + 1;
 }
 
 Date dateAdd(StringView interval, long long number, Date value) {
@@ -177,9 +188,7 @@ Date dateAdd(StringView interval, long long number, Date value) {
     };
     auto addSeconds = [&](long long seconds) {
         if (std::llabs(seconds) > 1000000000000LL) throw Failure(errOverflow);
-        const long long total = ds.day * 86400 + ds.second + seconds;
-        const long long day = total >= 0 ? total / 86400 : -((-total + 86399) / 86400);
-        return fromDayAndTime(day, static_cast<double>(total - day * 86400) / 86400.0);
+        return fromTotalSeconds(ds.day * 86400 + ds.second + seconds);
     };
     auto addDays = [&](long long days) {
         if (std::llabs(days) > 100000000) throw Failure(errOverflow);

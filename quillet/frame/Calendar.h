@@ -33,12 +33,29 @@ struct DateParts {
     friend bool operator==(const DateParts&, const DateParts&) = default;
 };
 
+// The range of dates, the one home of it: 1 January 100 to 31 December 9999.
 inline constexpr double FIRST_SERIAL = -657434.0;  // 1 January 100
 inline constexpr double LAST_SERIAL = 2958465.0;   // 31 December 9999
 
+// timeFraction - a time of day as the fraction of a day, hours, minutes and
+// seconds as they are (25:00:00 is 1.0416..).
+[[nodiscard]] constexpr double timeFraction(double hour, double minute, double second) noexcept {
+    return (hour * 3600.0 + minute * 60.0 + second) / 86400.0;
+}
+
+// DaySecond - a calendar day and the second of that day, 0 .. 86399.
+struct DaySecond {
+    std::int64_t day;
+    int second;
+};
+// daySecond - the day and second of a serial, a time that rounds to the next
+// midnight carried into the next day; Failure(errOverflow) outside the range.
+[[nodiscard]] DaySecond daySecond(Date value);
 // split - the parts of a serial; Failure(errOverflow) outside the range (or
 // for a value that is no number).
 [[nodiscard]] DateParts split(Date value);
+// split - the parts of a day and second that daySecond gave.
+[[nodiscard]] DateParts split(DaySecond value) noexcept;
 // dayIndex - the calendar day of a serial, as days after 30 December 1899
 // (negative before it), without rounding the time.
 [[nodiscard]] std::int64_t dayIndex(Date value) noexcept;
@@ -68,8 +85,11 @@ inline constexpr double LAST_SERIAL = 2958465.0;   // 31 December 9999
 [[nodiscard]] int weekday(Date value, VbDayOfWeek firstDay = vbSunday);
 // dayOfYear - 1 .. 366.
 [[nodiscard]] int dayOfYear(Date value);
-// weekOfYear - week 1 is the week of 1 January, weeks start on `firstDay`.
-[[nodiscard]] int weekOfYear(Date value, VbDayOfWeek firstDay = vbSunday);
+// weekOfYear - the week of the year, weeks starting on `firstDay`. Week 1 is
+// the week of 1 January; with vbFirstFourDays the first week with four days
+// of the year, with vbFirstFullWeek the first whole week, and the days before
+// it belong to the last week of the year before (52 in the year 100).
+[[nodiscard]] int weekOfYear(Date value, VbDayOfWeek firstDay = vbSunday, VbFirstWeekOfYear firstWeek = vbFirstJan1);
 
 // dateAdd - interval "yyyy", "q", "m" (the day clamped to the month's end),
 // "d", "y", "w" (days), "ww" (weeks), "h", "n", "s"; any case. The time of

@@ -74,6 +74,14 @@ TEST(Calendar, WeekdaysAndWeeks) {
     EXPECT_EQ(weekOfYear(Date(42005.0)), 1);   // Thursday 1 January 2015
     EXPECT_EQ(weekOfYear(Date(42008.0)), 2);   // the Sunday after
     EXPECT_EQ(weekOfYear(Date(42008.0), vbMonday), 1);
+    // The first-week rules: days before week 1 belong to the last week of the year before.
+    EXPECT_EQ(weekOfYear(Date(42008.0), vbMonday, vbFirstFourDays), 1);   // 2015 starts on a Thursday
+    EXPECT_EQ(weekOfYear(Date(42370.0), vbMonday, vbFirstFourDays), 53);  // Friday 1 January 2016
+    EXPECT_EQ(weekOfYear(Date(42373.0), vbMonday, vbFirstFourDays), 1);   // the Monday after
+    EXPECT_EQ(weekOfYear(Date(42005.0), vbSunday, vbFirstFullWeek), 52);  // Thursday 1 January 2015
+    EXPECT_EQ(weekOfYear(Date(42008.0), vbSunday, vbFirstFullWeek), 1);
+    EXPECT_EQ(weekOfYear(Date(-657434.0), vbSunday, vbFirstFullWeek), 52);  // no year before the first
+    EXPECT_EQ(weekOfYear(Date(42007.0 + 86399.6 / 86400.0)), 2);            // Saturday night rounds into Sunday, week 2
     EXPECT_FAILURE((void)weekday(Date(1.0), static_cast<VbDayOfWeek>(8)), errInvalidCall);
 }
 

@@ -12,6 +12,7 @@
 //   readDate(u"2015-01-02")                                  Date 42006 (year first in any profile)
 //   readDate(u"42006.5")                                     Date 42006.5 (a number is a serial)
 //   readDate(u"abc")                                         throws Failure(errTypeMismatch)
+//   readDate(u"1/2/2015" + 100 slashes)                     throws (more than MAX_DATE_TEXT_PARTS parts)
 //
 // Format items, letters in any case: d dd ddd dddd ddddd (short date) dddddd
 // (long date), m mm mmm mmmm (m and mm are minutes straight after h or hh,
@@ -22,6 +23,7 @@
 // "quoted text", \x (x itself); anything else is itself.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 
 #include "quillet/frame/Variant.h"
@@ -32,15 +34,23 @@ namespace quillet {
 
 // formatDate - `value` written with a host date format; an empty format is
 // the general date. Failure(errOverflow) for a serial outside the years 100
-// to 9999; no format fails.
+// to 9999; no format fails. Time and memory grow in proportion to the
+// format's length, also for formats of one letter repeated many times.
 [[nodiscard]] String formatDate(Date value, StringView format, VbDayOfWeek firstDayOfWeek = vbSunday,
                                 VbFirstWeekOfYear firstWeekOfYear = vbFirstJan1);
 // formatDate - `value` written in a named format of the regional settings;
 // vbGeneralDate shows only the date and time parts that are not zero.
 [[nodiscard]] String formatDate(Date value, VbDateTimeFormat named);
 
+// The most parts a text read as a date may have: each number, each word and
+// each separator character is one part ("Tuesday, January 13, 2015 6:05 PM"
+// has 15). A text with more reads as no date, and the reader stops there
+// without looking at the rest of it.
+inline constexpr std::size_t MAX_DATE_TEXT_PARTS = 64;
+
 // tryReadDate - a text read as a date under the regional settings; no value
-// when it reads as no date.
+// when it reads as no date. Time and memory stay within a few passes over
+// the text, whatever the text.
 [[nodiscard]] std::optional<Date> tryReadDate(StringView text);
 // readDate - as tryReadDate; Failure(errTypeMismatch) when it reads as no date.
 [[nodiscard]] Date readDate(StringView text);

@@ -5,10 +5,10 @@
 #include "quillet_test.h"
 
 #include "quillet/frame/Calendar.h"
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/utf8.h"
-#include "quillet/platform/Clock.h"
 
 namespace quillet {
 namespace {
@@ -61,20 +61,8 @@ TEST(DateText, FormatItemsUnderUsEnglish) {
     RegionalScope us(RegionalSettings::usEnglish());
     const Date d = at(2015, 1, 2, 18, 5, 9);
     const FormatRow rows[] = {
-        {"day", d, u"d", u"2"},
-        {"day two digits", d, u"dd", u"02"},
-        {"weekday abbreviated", d, u"ddd", u"Fri"},
-        {"weekday", d, u"dddd", u"Friday"},
-        {"month", d, u"m", u"1"},
-        {"month two digits", d, u"mm", u"01"},
-        {"month abbreviated", d, u"mmm", u"Jan"},
-        {"month name", d, u"mmmm", u"January"},
-        {"day of year", d, u"y", u"2"},
-        {"two-digit year", d, u"yy", u"15"},
-        {"year", d, u"yyyy", u"2015"},
-        {"24-hour clock without a mark", d, u"h", u"18"},
-        {"time", d, u"hh:nn:ss", u"18:05:09"},
-        {"no leading zeros", d, u"h:n:s", u"18:5:9"},
+        {"short items", d, u"d ddd m mmm y yy", u"2 Fri 1 Jan 2 15"},
+        {"24-hour clock without a mark, no leading zeros", d, u"h:n:s", u"18:5:9"},
         {"mm after hh:", d, u"hh:mm", u"18:05"},
         {"m after h", d, u"hm", u"185"},
         {"mm before hh is the month", d, u"mm hh", u"01 18"},
@@ -103,8 +91,25 @@ TEST(DateText, FormatItemsUnderUsEnglish) {
         {"1800", Date(-36522.0), u"dddd d mmmm yyyy", u"Wednesday 1 January 1800"},
         {"first date", Date(-657434.0), u"yyyy yy", u"100 00"},
         {"last second", Date(2958465.0 + 86399.0 / 86400.0), u"yyyy-mm-dd hh:nn:ss", u"9999-12-31 23:59:59"},
+        // A run of one letter is taken apart into items, the longest first.
+        {"seven d", d, u"ddddddd", u"Friday, January 2, 20152"},
+        {"seven y", d, u"yyyyyyy", u"2015152"},
+        {"five m are a name and a month", d, u"mmmmm", u"January1"},
+        {"three h", d, u"hhh", u"1818"},
+        {"mmm after h is no minute", d, u"hmmm", u"18Jan"},
+        {"m after h and a name is the month", d, u"h:mmmmm", u"18:January1"},
+        {"two colons between h and m", d, u"h::m", u"18::5"},
+        {"six t", d, u"tttttt", u"6:05:09 PMt"},
+        {"twelve-hour clock for every hour", d, u"hhhh AM/PM", u"0606 PM"},
+        {"marks twice", d, u"AM/PMa/p", u"PMp"},
     };
     checkRows(std::begin(rows), std::end(rows));
+    EXPECT_EQ(formatDate(d, String(1000, u'h')), [] {
+        String expected;
+        for (int k = 0; k < 500; ++k) expected += u"18";
+        return expected;
+    }());
+    EXPECT_EQ(formatDate(d, u"\"" + String(100000, u'x') + u"\""), String(100000, u'x'));
     EXPECT_FAILURE((void)formatDate(Date(2958466.0), u"yyyy"), errOverflow);
     EXPECT_FAILURE((void)formatDate(Date(-657435.0), u"yyyy"), errOverflow);
 }
@@ -136,7 +141,6 @@ TEST(DateText, NamedFormatsAndGeneralDate) {
     };
     checkRows(std::begin(rows), std::end(rows));
     EXPECT_EQ(formatDate(at(2015, 1, 4), u"w ww", vbMonday), u"7 1");
-    EXPECT_EQ(formatDate(at(2015, 1, 4), u"ww", vbMonday, vbFirstFourDays), u"1");
     EXPECT_EQ(formatDate(at(2016, 1, 1), u"ww", vbMonday, vbFirstFourDays), u"53");
     EXPECT_EQ(formatDate(d, vbLongTime), u"18:05:09");
 }
@@ -205,13 +209,34 @@ TEST(DateText, ReaderUnderUsEnglish) {
                                 u"1/2/2015 xyz", u"3e10", u"Jan Feb 2015", u":", u"1:", u"9999999999/1/1", u"1/1/10000",
                                 u"1/2/2015 13:00 AM", u"PM", u"January", u"1/2/2015 #"}) {
         EXPECT_FALSE(tryReadDate(bad).has_value()) << toUtf8(bad);
-        try {
-            (void)readDate(bad);
-            ADD_FAILURE() << toUtf8(bad);
-        } catch (const Failure& f) {
-            EXPECT_EQ(f.number(), errTypeMismatch);
-        }
+        EXPECT_FAILURE((void)readDate(bad), errTypeMismatch) << toUtf8(bad);
     }
+}
+
+// The reader stops early on texts that can be no date; these are the
+// boundaries where stopping early could go wrong.
+TEST(DateText, ReaderLimits) {
+    RegionalScope us(RegionalSettings::usEnglish());
+    ClockScope fixed(at(2026, 11, 23));
+    // "1/2/2015" is five parts; trailing separators are read over up to the limit.
+    const String date = u"1/2/2015";
+    const String atLimit = date + String(MAX_DATE_TEXT_PARTS - 5, u'/');
+    EXPECT_EQ(readDate(atLimit).serial, 42006.0);
+    EXPECT_FALSE(tryReadDate(atLimit + u"/").has_value());
+    EXPECT_FALSE(tryReadDate(date + String(100000, u'/')).has_value());
+    String ones;
+    for (int k = 0; k < 50000; ++k) ones += u"1 ";
+    EXPECT_FALSE(tryReadDate(ones).has_value());
+    const ReadRow rows[] = {
+        {"the longest names", u"Wednesday, September 30, 2015 11:59:59 PM", at(2015, 9, 30, 23, 59, 59).serial},
+        {"weekday names are read over", u"Mon Tue 1/2/2015", 42006.0},
+        {"mark straight after the hour", u"1/2/2015 6PM", 42006.75},
+        {"nine digits", u"1/2/000002015", 42006.0},
+    };
+    checkReads(std::begin(rows), std::end(rows));
+    for (const char16_t* bad : {u"Septembers 30, 2015", u"1/2/0000002015", u"1/2/2015 6  PM", u"1/2/2015 AM PM 6",
+                                u"Jan 2 2015 Feb", u"1/2/2015 6:05 T", u"1/2/2015 x 6 PM", u"1/2/2015 6 :05"})
+        EXPECT_FALSE(tryReadDate(bad).has_value()) << toUtf8(bad);
 }
 
 TEST(DateText, ReaderUnderDayFirst) {

@@ -14,6 +14,7 @@
 //   toText(Variant(std::make_shared<clsPoint>()))  throws Failure(errTypeMismatch)
 #pragma once
 
+#include "quillet/frame/Calendar.h"
 #include "quillet/frame/Variant.h"
 #include "quillet/frame/types.h"
 
@@ -47,7 +48,7 @@ namespace quillet {
 [[nodiscard]] bool isNumeric(const Variant& value) noexcept;
 
 // The range of serials that are dates: 1 January 100 to 31 December 9999.
-inline constexpr double MIN_DATE_SERIAL = -657434.0;
-inline constexpr double MAX_DATE_SERIAL = 2958465.999988426;  // 23:59:59
+inline constexpr double MIN_DATE_SERIAL = calendar::FIRST_SERIAL;
+inline constexpr double MAX_DATE_SERIAL = calendar::LAST_SERIAL + calendar::timeFraction(23, 59, 59);
 
 }  // namespace quillet

@@ -33,12 +33,12 @@ class MemoryListControl : public ListControl {
 public:
     void Clear() override;
     void AddItem(const String& item) override;
-    [[nodiscard]] Long NewIndex() const override { return newIndex_; }
+    [[nodiscard]] Long NewIndex() const override { return m_newIndex; }
     [[nodiscard]] Long ItemData(Long index) const override;
     void setItemData(Long index, Long value) override;
 
     // Queries for the host (and tests).
-    [[nodiscard]] Long ListCount() const noexcept { return static_cast<Long>(items_.size()); }
+    [[nodiscard]] Long ListCount() const noexcept { return static_cast<Long>(m_items.size()); }
     [[nodiscard]] const String& item(Long index) const;
 
 private:
@@ -48,8 +48,8 @@ private:
     };
     [[nodiscard]] std::size_t checkedIndex(Long index) const;
 
-    std::vector<Entry> items_;
-    Long newIndex_ = -1;
+    std::vector<Entry> m_items;
+    Long m_newIndex = -1;
 };
 
 }  // namespace quillet

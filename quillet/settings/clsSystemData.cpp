@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "quillet/frame/Clock.h"
 #include "quillet/frame/Failure.h"
-#include "quillet/platform/Clock.h"
 
 namespace quillet {
 

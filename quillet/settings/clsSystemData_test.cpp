@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "quillet/platform/Clock.h"
+#include "quillet/frame/Clock.h"
 
 namespace quillet {
 namespace {

@@ -36,12 +36,12 @@ String clsString::booleanToString(Boolean value_) const { return value_ == True 
 Date clsString::stringToDate(const String& str_) const {
     Date result;
     attempt([&] {
-        const StringView trimmed = trimBlanks(str_);
         // A text that reads as a date goes through the fixed form first, so
-        // that what is read back is exactly what dateToString would write.
-        String rewritten(trimmed);
-        if (auto d = tryReadDate(trimmed)) rewritten = formatDate(*d, US_DATE_TIME_FORMAT());
-        result = readDate(rewritten);
+        // that what is read back is exactly what dateToString would write. A
+        // text that reads as none is not read a second time.
+        const auto read = tryReadDate(trimBlanks(str_));
+        if (!read) return;
+        result = readDate(formatDate(*read, US_DATE_TIME_FORMAT()));
     });
     return result;
 }

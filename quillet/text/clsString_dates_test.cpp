@@ -51,6 +51,7 @@ TEST(clsStringDates, NoDateGivesDateZeroAndDayFirstTextsSwap) {
     EXPECT_EQ(s.stringToDate(u"abc"), Date(0.0));
     EXPECT_EQ(s.stringToDate(u"2/30/2015"), Date(0.0));
     EXPECT_EQ(s.stringToDate(u"42006"), Date(42006.0));
+    EXPECT_EQ(s.stringToDate(u"1/2/2015" + String(100000, u'/')), Date(0.0));  // far too many parts
     RegionalScope df(dayFirstWithPoints());
     // A text typed day first is rewritten month first and read day first
     // again, so 1 February comes back as 2 January: the two members are no

@@ -1,4 +1,4 @@
-#include "quillet/platform/Clock.h"
+#include "quillet/frame/Clock.h"
 
 #include <algorithm>
 #include <ctime>
@@ -28,7 +28,7 @@ Date Clock::now() {
     localtime_r(&t, &local);
     const double day = calendar::dateSerial(local.tm_year + 1900LL, local.tm_mon + 1LL, local.tm_mday).serial;
     const int second = std::min(local.tm_sec, 59);  // a leap second counts as the last one
-    return Date(day + (local.tm_hour * 3600.0 + local.tm_min * 60.0 + second) / 86400.0);
+    return Date(day + calendar::timeFraction(local.tm_hour, local.tm_min, second));
 }
 
 Date Clock::today() {
@@ -36,10 +36,10 @@ Date Clock::today() {
     return calendar::fromDayAndTime(calendar::dayIndex(n), 0.0);
 }
 
-ClockScope::ClockScope(Date fixed) : hadPrevious_(fixedClock().active), previous_(fixedClock().value) {
+ClockScope::ClockScope(Date fixed) : m_hadPrevious(fixedClock().active), m_previous(fixedClock().value) {
     fixedClock() = {true, fixed};
 }
 
-ClockScope::~ClockScope() { fixedClock() = {hadPrevious_, previous_}; }
+ClockScope::~ClockScope() { fixedClock() = {m_hadPrevious, m_previous}; }
 
 }  // namespace quillet

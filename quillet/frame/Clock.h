@@ -1,4 +1,5 @@
-// quillet/platform/Clock.h - the platform clock: the local date and time.
+// quillet/frame/Clock.h - the system clock as dates see it: the local date
+// and time, and a way for tests to fix it.
 //
 //   Clock::now();      // e.g. Date 46349.4791666667 (23 November 2026 11:30)
 //   Clock::today();    // Date 46349, the same day at midnight
@@ -31,8 +32,8 @@ public:
     ClockScope& operator=(const ClockScope&) = delete;
 
 private:
-    bool hadPrevious_;
-    Date previous_;
+    bool m_hadPrevious;
+    Date m_previous;
 };
 
 }  // namespace quillet
