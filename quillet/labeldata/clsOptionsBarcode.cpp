@@ -2,11 +2,13 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/convert.h"
-#include "quillet/labeldata/modConstants.h"
+#include "quillet/labeldata/internal/modConstants.h"
 #include "quillet/persistence/clsBufferIO.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
+
+namespace modConstants = labeldata_internal::modConstants;
 
 clsOptionsBarcode::clsOptionsBarcode() { setDefaults(); }
 

@@ -2,9 +2,11 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/TextCompare.h"
-#include "quillet/labeldata/modConstants.h"
+#include "quillet/labeldata/internal/modConstants.h"
 
 namespace quillet {
+
+namespace modConstants = labeldata_internal::modConstants;
 
 clsUccAISpec::clsUccAISpec() { setDefaults(); }
 

@@ -1,8 +1,8 @@
-#include "quillet/persistence/modMisc.h"
+#include "quillet/persistence/internal/modMisc.h"
 
 #include "quillet/frame/trim.h"
 
-namespace quillet::modMisc {
+namespace quillet::persistence_internal::modMisc {
 
 Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
     const StringView s = trimBlanks(text);
@@ -20,4 +20,4 @@ Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
     return default_value_;
 }
 
-}  // namespace quillet::modMisc
+}  // namespace quillet::persistence_internal::modMisc
