@@ -22,9 +22,9 @@ using quillet::Variant;
 String itemText(Long i) { return u"item " + quillet::numberText(i) + u" & more"; }
 
 void perItem(benchmark::State& state) {
-    state.counters["per_item"] = benchmark::Counter(static_cast<double>(state.range(0)),
-                                                    benchmark::Counter::kIsIterationInvariantRate |
-                                                        benchmark::Counter::kInvert);
+    state.counters["per_item"] =
+        benchmark::Counter(static_cast<double>(state.range(0)),
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 void read_CollectionBetween(benchmark::State& state) {

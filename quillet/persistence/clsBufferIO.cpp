@@ -184,8 +184,13 @@ Variant clsBufferIO::WriteVariantBetween(const String& xml_tag_, const Variant& 
         // Joined as Variants: Null and Empty join as nothing, an error value
         // cannot be joined.
         if (value_.getIf<ErrorValue>()) throw Failure(errTypeMismatch);
-        const String text = (value_.isNull() || value_.isEmpty()) ? String() : toText(value_);
-        result = Variant(wrap(xml_tag_, text));
+        if (value_.isNull() || value_.isEmpty()) {
+            result = Variant(wrap(xml_tag_, StringView()));
+        } else if (const String* text = value_.getIf<String>()) {
+            result = Variant(wrap(xml_tag_, *text));  // a finished buffer, copied once
+        } else {
+            result = Variant(wrap(xml_tag_, toText(value_)));
+        }
     });
     return result;
 }
