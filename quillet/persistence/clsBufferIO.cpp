@@ -136,8 +136,7 @@ Boolean clsBufferIO::ReadBooleanBetween(const Variant& search_str, const String&
     Boolean result;
     attempt([&] {
         const BufferText buffer(search_str);
-        result =
-            pi::modMisc::readBooleanText(String(pi::elementText(buffer.view(), TagPair(xml_tag_))), default_value_);
+        result = pi::modMisc::readBooleanText(pi::elementText(buffer.view(), TagPair(xml_tag_)), default_value_);
     });
     return result;
 }

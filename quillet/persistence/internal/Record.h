@@ -62,9 +62,9 @@ void appendReal(String& out, const TagPair& tag, Double value);
 void appendBoolean(String& out, const TagPair& tag, Boolean value);
 
 template <class T>
-T readValue(StringView buffer, const TagPair& tag, const T& absent) {
+auto readValue(StringView buffer, const TagPair& tag, const T& absent) {
     if constexpr (std::is_same_v<T, Boolean>) {
-        return modMisc::readBooleanText(String(elementText(buffer, tag)), absent);
+        return modMisc::readBooleanText(elementText(buffer, tag), absent);  // not decoded
     } else if constexpr (std::is_same_v<T, StringView>) {
         return readString(buffer, tag, String(absent));
     } else if constexpr (std::is_same_v<T, Double>) {

@@ -4,7 +4,7 @@
 
 namespace quillet::persistence_internal::modMisc {
 
-Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
+Boolean readBooleanText(StringView text, Boolean default_value_) noexcept {
     const StringView s = trimBlanks(text);
     // The four words are ASCII, and no other character lower-cases into
     // ASCII letters, so ASCII lower-casing decides exactly as full lower-casing.

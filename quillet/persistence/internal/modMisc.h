@@ -14,6 +14,6 @@ namespace quillet::persistence_internal::modMisc {
 // readBooleanText - blanks trimmed from both ends, case ignored: "true" and
 // "yes" give True, "false" and "no" give False; anything else, the empty text
 // included, gives `default_value_` as it is.
-[[nodiscard]] Boolean readBooleanText(const String& text, Boolean default_value_) noexcept;
+[[nodiscard]] Boolean readBooleanText(StringView text, Boolean default_value_) noexcept;
 
 }  // namespace quillet::persistence_internal::modMisc
