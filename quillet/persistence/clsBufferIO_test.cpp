@@ -327,36 +327,22 @@ TEST(clsBufferIO, HostileBuffersGiveDefaultsWithoutFailing) {
 
 // The item readers find every item in one pass; what each item gets must be
 // what a search of the element for that item's own tag gives.
-std::vector<String> perItemCollection(const Variant& buffer, const String& tag) {
-    const String outer = toText(io.ReadVariantBetween(buffer, tag));
+std::vector<String> perItem(const Variant& buffer, bool array) {
+    const String outer = toText(io.ReadVariantBetween(buffer, u"C"));
     String prefix = u"Item";
-    String inner = toText(io.ReadVariantBetween(Variant(outer), u"XmlCollection"));
+    String inner = toText(io.ReadVariantBetween(Variant(outer), array ? u"XmlArray" : u"XmlCollection"));
     if (inner.empty()) {
-        inner = toText(io.ReadVariantBetween(Variant(outer), u"Collection"));
+        inner = toText(io.ReadVariantBetween(Variant(outer), array ? u"Array" : u"Collection"));
         prefix.clear();
     }
-    Long count = 0;
-    attempt([&] { count = toLong(io.ReadNumberBetween(Variant(inner), u"Count")); });
+    Long first = 1, last = 0;
+    attempt([&] { first = array ? toLong(io.ReadNumberBetween(Variant(inner), u"LBound")) : 1; });
+    attempt([&] { last = toLong(io.ReadNumberBetween(Variant(inner), array ? u"UBound" : u"Count")); });
     std::vector<String> items;
-    for (Long i = 1; i <= count && count <= (1 << 20); ++i)
-        items.push_back(io.ReadStringBetween(Variant(outer), prefix + numberText(i)));
-    return items;
-}
-
-std::vector<String> perItemArray(const Variant& buffer, const String& tag) {
-    const String outer = toText(io.ReadVariantBetween(buffer, tag));
-    String prefix = u"Item";
-    String inner = toText(io.ReadVariantBetween(Variant(outer), u"XmlArray"));
-    if (inner.empty()) {
-        inner = toText(io.ReadVariantBetween(Variant(outer), u"Array"));
-        prefix.clear();
-    }
-    Long lower = 0, upper = 0;
-    attempt([&] { lower = toLong(io.ReadNumberBetween(Variant(inner), u"LBound")); });
-    attempt([&] { upper = toLong(io.ReadNumberBetween(Variant(inner), u"UBound")); });
-    std::vector<String> items;
-    for (Long i = lower; i <= upper && upper - lower < (1 << 20); ++i)
-        items.push_back(io.ReadStringBetween(Variant(inner), prefix + numberText(i)));
+    // Collection items are searched in the caller's element, array items in the inner one.
+    const Variant searched(array ? inner : outer);
+    for (Long i = first; i <= last && last - first < (1 << 20); ++i)
+        items.push_back(io.ReadStringBetween(searched, prefix + numberText(i)));
     return items;
 }
 
@@ -396,7 +382,7 @@ TEST(clsBufferIO, ItemReadersGiveWhatThePerItemScanGives) {
         SCOPED_TRACE(r.name);
         const Variant buffer(u"<C>" + head + r.inside + u"</C>");
         EXPECT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), r.collection);
-        EXPECT_EQ(perItemCollection(buffer, u"C"), r.collection);
+        EXPECT_EQ(perItem(buffer, false), r.collection);
     }
     // The older forms with bare numbers, and a negative subscript.
     EXPECT_EQ(itemsOf(io.ReadCollectionBetween(
@@ -426,8 +412,8 @@ TEST(clsBufferIO, ItemReadersGiveWhatThePerItemScanGives) {
         text.insert(random() % (text.size() + 1), inside);
         const Variant buffer(random() % 4 == 0 ? text : u"<C>" + text + u"</C>");
         SCOPED_TRACE(toUtf8(*buffer.getIf<String>()));
-        ASSERT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), perItemCollection(buffer, u"C"));
-        ASSERT_EQ(itemsOf(io.ReadArrayBetween(buffer, u"C")), perItemArray(buffer, u"C"));
+        ASSERT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), perItem(buffer, false));
+        ASSERT_EQ(itemsOf(io.ReadArrayBetween(buffer, u"C")), perItem(buffer, true));
     }
 }
 
