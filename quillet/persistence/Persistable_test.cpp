@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "quillet/quillet.h"
 
@@ -46,13 +47,13 @@ enum EmptyBuffer { EMPTY_READS, EMPTY_KEEPS };
 enum GivenNothing { KEEPS, DEFAULTS, DEFAULTS_INTO_CALLER };
 
 struct Shape {
-    const char* name;
+    std::string name;
     std::function<void()> check;
 };
 
 template <class T>
 Shape row(EmptyBuffer empty, GivenNothing nothing, const char* fresh, const char* absent) {
-    return {typeid(T).name(), [=] {
+    return {toUtf8(T().getSaveTag()), [=] {
                 const std::string absentText = absent ? absent : fresh;
                 const auto changed = [] {
                     auto object = std::make_shared<T>();
