@@ -28,6 +28,12 @@ namespace {
 // a hostile count cannot exhaust the host's memory.
 constexpr long long MAX_READ_ITEMS = 1 << 20;
 
+// The most text the items of one collection or array are read with, in code
+// units. Items may nest, so their texts together can grow with the square
+// of the buffer; past this bound the read is taken as an allocation that
+// failed too.
+constexpr std::size_t MAX_READ_TEXT = std::size_t{1} << 26;
+
 // The tags of the collection and array forms, made once.
 struct FormTags {
     TagPair xmlCollection{u"XmlCollection"};
@@ -258,14 +264,18 @@ std::shared_ptr<Collection> clsBufferIO::ReadCollectionBetween(const Variant& se
         if (count <= 0 || count > MAX_READ_ITEMS) return;
         // Items are read from the caller's element, not from the inner one.
         const pi::ItemIndex index(outer, prefix);
-        Collection& items = deref(result);
+        auto items = std::make_shared<Collection>();
+        std::size_t total = 0;
         for (Long i = 1; i <= count; ++i) {
-            attempt([&] {
-                String item;
-                if (const auto text = index.item(i)) item = pi::decodeEntities(*text);
-                items.Add(Variant(std::move(item)));
-            });
+            String item;
+            if (const auto text = index.item(i)) {
+                total += text->size();
+                if (total > MAX_READ_TEXT) return;
+                item = pi::decodeEntities(*text);
+            }
+            attempt([&] { items->Add(Variant(std::move(item))); });
         }
+        result = std::move(items);
     });
     return result;
 }
@@ -306,8 +316,13 @@ Array<String> clsBufferIO::ReadArrayBetween(const Variant& search_str, const Str
         if (static_cast<long long>(upper) - lower + 1 > MAX_READ_ITEMS) return;
         Array<String> items(lower, upper);
         const pi::ItemIndex index(inner, prefix);
+        std::size_t total = 0;
         for (long long i = lower; i <= upper; ++i) {
-            if (const auto text = index.item(i)) items[static_cast<Long>(i)] = pi::decodeEntities(*text);
+            if (const auto text = index.item(i)) {
+                total += text->size();
+                if (total > MAX_READ_TEXT) return;
+                items[static_cast<Long>(i)] = pi::decodeEntities(*text);
+            }
         }
         result = std::move(items);
     });

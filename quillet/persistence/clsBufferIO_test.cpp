@@ -323,6 +323,14 @@ TEST(clsBufferIO, HostileBuffersGiveDefaultsWithoutFailing) {
         io.ReadCollectionBetween(Variant(u"<C><XmlCollection><Count>2000000000</Count></XmlCollection></C>"), u"C")
             ->Count(),
         0);
+    // Items nested in each other: their texts together grow with the square
+    // of the buffer, and past 2^26 code units the read counts as failed.
+    String nested = u"<C><XmlCollection><Count>20000</Count></XmlCollection>";
+    for (int i = 1; i <= 20000; ++i) nested += u"<Item" + numberText(i) + u">";
+    for (int i = 1; i <= 20000; ++i) nested += u"</Item" + numberText(i) + u">";
+    nested += u"</C>";
+    EXPECT_EQ(io.ReadCollectionBetween(Variant(nested), u"C")->Count(), 0);
+    EXPECT_EQ(io.ReadCollectionBetween(Variant(nested.substr(0, 60000) + u"</C>"), u"C")->Count(), 20000);
 }
 
 // The item readers find every item in one pass; what each item gets must be
