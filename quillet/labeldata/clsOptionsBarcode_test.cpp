@@ -55,5 +55,6 @@ TEST(clsOptionsBarcode, DecimalCommaIsWrittenButReadBackOnlyToTheComma) {
     back.readObject(bc.writeObject());
     EXPECT_EQ(back.getBarRatio(), 2.0);
 }
+
 }  // namespace
 }  // namespace quillet

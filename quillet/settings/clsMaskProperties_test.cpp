@@ -26,5 +26,6 @@ TEST(clsMaskProperties, ToleranceIsClampedBySetterAndReader) {
     m.readObject(Variant(u"<MaskTolerance>1e10</MaskTolerance>"));
     EXPECT_EQ(m.getMaskTolerance(), 50);
 }
+
 }  // namespace
 }  // namespace quillet

@@ -23,16 +23,8 @@ void expectValues(const clsOptionsLayers& l, Long x, Long y, Long width, Long he
     EXPECT_EQ(l.getHeight(), height) << where;
 }
 
-const char* const FRESH_TEXT =
-    "<LayersOptions><Point><X>690</X>\r\n<Y>1005</Y>\r\n</Point>\r\n"
-    "<Width>0</Width>\r\n<Height>0</Height>\r\n</LayersOptions>\r\n";
-
-TEST(clsOptionsLayers, AbsentPointReadsAsOriginAndEmptyBufferKeepsAll) {
+TEST(clsOptionsLayers, ThePointReadsOnlyItsOwnSection) {
     auto l = changed();
-    for (const Variant& empty : {Variant(), Variant(u""), Variant::null(), Variant(Nothing)}) {
-        l->readObject(empty);
-        expectValues(*l, -3, 44, 300, 200, "empty buffer");
-    }
     l->readObject(Variant(u"<Width>77</Width>\r\n"));
     expectValues(*l, 0, 0, 77, 0, "width only");
 
@@ -68,5 +60,6 @@ TEST(clsOptionsLayers, PositionIsHeldNotShared) {
     EXPECT_EQ(l.getX(), 0);
     EXPECT_EQ(l.getY(), 0);
 }
+
 }  // namespace
 }  // namespace quillet

@@ -62,5 +62,6 @@ TEST(clsOptionsSignaturePad, StrictFieldsReadTheRegionalDecimalSeparator) {
     EXPECT_EQ(p->getLineThickness(), 4);  // not a German number: kept
     EXPECT_EQ(p->getForeColor(), 6);
 }
+
 }  // namespace
 }  // namespace quillet
