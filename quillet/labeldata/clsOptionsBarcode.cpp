@@ -81,6 +81,6 @@ void clsOptionsBarcode::readObject(const Variant& buffer_) {
     record().read(*this, buffer_);
 }
 
-String clsOptionsBarcode::getSaveTag() const { return u"OptionsBarcode"; }
+String clsOptionsBarcode::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet

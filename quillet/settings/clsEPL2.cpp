@@ -80,6 +80,6 @@ void clsEPL2::readObject(const Variant& buffer) { record().read(*this, buffer); 
 
 Variant clsEPL2::writeObject() const { return record().write(*this); }
 
-String clsEPL2::getSaveTag() const { return u"AdvancedPrinterSettingsEPL2"; }
+String clsEPL2::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet

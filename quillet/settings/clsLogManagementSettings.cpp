@@ -44,7 +44,7 @@ void clsLogManagementSettings::readObject(Variant buffer_) {
 
 Variant clsLogManagementSettings::writeObject() const { return record().write(*this); }
 
-String clsLogManagementSettings::getSaveTag() const { return u"LogManagementSettings"; }
+String clsLogManagementSettings::getSaveTag() const { return record().saveTag(); }
 
 void clsLogManagementSettings::setRemoveLogsByAge(Boolean remove_logs_by_age_) {
     m_removeLogsByAge = remove_logs_by_age_;

@@ -36,7 +36,7 @@ void clsMaskProperties::readObject(const Variant& buffer) { record().read(*this,
 
 Variant clsMaskProperties::writeObject() const { return record().write(*this); }
 
-String clsMaskProperties::getSaveTag() const { return u"MaskProperties"; }
+String clsMaskProperties::getSaveTag() const { return record().saveTag(); }
 
 void clsMaskProperties::setApplyMaskColor(Boolean apply_mask_color_) { m_applyMaskColor = apply_mask_color_; }
 Boolean clsMaskProperties::getApplyMaskColor() const { return m_applyMaskColor; }

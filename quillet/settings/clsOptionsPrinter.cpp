@@ -44,7 +44,7 @@ void clsOptionsPrinter::readObject(const Variant& buffer_) {
 
 Variant clsOptionsPrinter::writeObject() const { return record().write(*this); }
 
-String clsOptionsPrinter::getSaveTag() const { return u"Options"; }
+String clsOptionsPrinter::getSaveTag() const { return record().saveTag(); }
 
 void clsOptionsPrinter::setPrinterName(const String& printer_name_) { m_printerName = printer_name_; }
 String clsOptionsPrinter::getPrinterName() const { return m_printerName; }

@@ -88,6 +88,6 @@ void clsZPL2::readObject(const Variant& buffer) { record().read(*this, buffer); 
 
 Variant clsZPL2::writeObject() const { return record().write(*this); }
 
-String clsZPL2::getSaveTag() const { return u"AdvancedPrinterSettingsZPL2"; }
+String clsZPL2::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet
