@@ -17,6 +17,10 @@
 // Buffers are taken as Variants by reference and never changed. A buffer
 // that holds no text (Empty, Null, a number) reads as its text form, or as
 // the empty text when it has none.
+//
+// Each read walks the buffer a fixed number of times, whatever it holds: the
+// collection and array readers find all their items in one pass, and give
+// each item exactly what a search for that item's own tag would give.
 #pragma once
 
 #include <memory>
