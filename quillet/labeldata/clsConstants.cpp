@@ -1,10 +1,10 @@
 #include "quillet/labeldata/clsConstants.h"
 
-#include "quillet/labeldata/modConstants.h"
+#include "quillet/labeldata/internal/modConstants.h"
 
 namespace quillet {
 
-namespace mc = modConstants;
+namespace mc = labeldata_internal::modConstants;
 
 QltPageOrientation clsConstants::DEFAULT_PRINT_ORIENTATION() const { return mc::DEFAULT_PRINT_ORIENTATION; }
 String clsConstants::DEFAULT_FONT_NAME() const { return mc::DEFAULT_FONT_NAME; }

@@ -79,16 +79,16 @@ public:
 private:
     void setDefaults();
 
-    BarcodeSymbology symbology = BARCODE_CODE_39;
-    QltEan13Extension ean13Ext = QLT_EAN13_EXT_NONE;
-    String fontName;
-    Long fontSize = 0;
-    qltCode128CodeSet code128CodeSet = CODE_128_CODE_SET_AUTO;
-    Double barRatio = 0.0;
-    Double barWidth = 0.0;
-    BarWidthOption barWidthOption = BAR_WIDTH_AUTO;
-    Double barReduction = 0.0;
-    String ai;
+    BarcodeSymbology m_symbology{};
+    QltEan13Extension m_ean13Ext{};
+    String m_fontName{};
+    Long m_fontSize{};
+    qltCode128CodeSet m_code128CodeSet{};
+    Double m_barRatio{};
+    Double m_barWidth{};
+    BarWidthOption m_barWidthOption{};
+    Double m_barReduction{};
+    String m_ai{};
 };
 
 }  // namespace quillet

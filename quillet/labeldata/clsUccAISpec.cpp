@@ -2,9 +2,11 @@
 
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/TextCompare.h"
-#include "quillet/labeldata/modConstants.h"
+#include "quillet/labeldata/internal/modConstants.h"
 
 namespace quillet {
+
+namespace modConstants = labeldata_internal::modConstants;
 
 clsUccAISpec::clsUccAISpec() { setDefaults(); }
 
@@ -18,23 +20,23 @@ void clsUccAISpec::setDefaults() {
     setHasPredefinedLength(modConstants::DEFAULT_UCC128_HAS_PREDEFINED_LENGTH);
 }
 
-String clsUccAISpec::getAI() const { return ai; }
-void clsUccAISpec::setAI(const String& ai_) { ai = ai_; }
-Boolean clsUccAISpec::getIsDataNumeric() const { return isDataNumeric; }
-void clsUccAISpec::setIsDataNumeric(Boolean is_data_numeric_) { isDataNumeric = is_data_numeric_; }
-Long clsUccAISpec::getMinLen() const { return minLen; }
-void clsUccAISpec::setMinLen(Long min_len_) { minLen = min_len_; }
-Long clsUccAISpec::getMaxLen() const { return maxLen; }
-void clsUccAISpec::setMaxLen(Long max_len_) { maxLen = max_len_; }
-String clsUccAISpec::getDescription() const { return description; }
-void clsUccAISpec::setDescription(const String& description_) { description = description_; }
-Boolean clsUccAISpec::getUsesDataCheckDigit() const { return usesDataCheckDigit; }
+String clsUccAISpec::getAI() const { return m_ai; }
+void clsUccAISpec::setAI(const String& ai_) { m_ai = ai_; }
+Boolean clsUccAISpec::getIsDataNumeric() const { return m_isDataNumeric; }
+void clsUccAISpec::setIsDataNumeric(Boolean is_data_numeric_) { m_isDataNumeric = is_data_numeric_; }
+Long clsUccAISpec::getMinLen() const { return m_minLen; }
+void clsUccAISpec::setMinLen(Long min_len_) { m_minLen = min_len_; }
+Long clsUccAISpec::getMaxLen() const { return m_maxLen; }
+void clsUccAISpec::setMaxLen(Long max_len_) { m_maxLen = max_len_; }
+String clsUccAISpec::getDescription() const { return m_description; }
+void clsUccAISpec::setDescription(const String& description_) { m_description = description_; }
+Boolean clsUccAISpec::getUsesDataCheckDigit() const { return m_usesDataCheckDigit; }
 void clsUccAISpec::setUsesDataCheckDigit(Boolean uses_data_check_digit_) {
-    usesDataCheckDigit = uses_data_check_digit_;
+    m_usesDataCheckDigit = uses_data_check_digit_;
 }
-Boolean clsUccAISpec::getHasPredefinedLength() const { return hasPredefinedLength; }
+Boolean clsUccAISpec::getHasPredefinedLength() const { return m_hasPredefinedLength; }
 void clsUccAISpec::setHasPredefinedLength(Boolean has_predefined_length_) {
-    hasPredefinedLength = has_predefined_length_;
+    m_hasPredefinedLength = has_predefined_length_;
 }
 
 void clsUccAISpec::assignObject(std::shared_ptr<clsUccAISpec>& application_) {
@@ -48,12 +50,12 @@ void clsUccAISpec::assignObject(std::shared_ptr<clsUccAISpec>& application_) {
     attempt([&] { setHasPredefinedLength(deref(application_).getHasPredefinedLength()); });
 }
 
-Boolean clsUccAISpec::isVariableLen() const { return minLen != maxLen; }
+Boolean clsUccAISpec::isVariableLen() const { return m_minLen != m_maxLen; }
 
 bool clsUccAISpec::endsInPlaceholder(char16_t placeholder) const {
-    if (ai.empty()) return false;
+    if (m_ai.empty()) return false;
     // Only the last character counts; folding it makes X and Y count too.
-    const String last = foldCase(StringView(ai).substr(ai.size() - 1));
+    const String last = foldCase(StringView(m_ai).substr(m_ai.size() - 1));
     return last.size() == 1 && last.front() == placeholder;
 }
 

@@ -61,13 +61,13 @@ private:
     void setDefaults();
     [[nodiscard]] bool endsInPlaceholder(char16_t placeholder) const;
 
-    String ai;
-    Boolean isDataNumeric;
-    Long minLen = 0;
-    Long maxLen = 0;
-    String description;
-    Boolean usesDataCheckDigit;
-    Boolean hasPredefinedLength;
+    String m_ai;
+    Boolean m_isDataNumeric;
+    Long m_minLen = 0;
+    Long m_maxLen = 0;
+    String m_description;
+    Boolean m_usesDataCheckDigit;
+    Boolean m_hasPredefinedLength;
 };
 
 }  // namespace quillet

@@ -17,6 +17,10 @@
 // Buffers are taken as Variants by reference and never changed. A buffer
 // that holds no text (Empty, Null, a number) reads as its text form, or as
 // the empty text when it has none.
+//
+// Each read walks the buffer a fixed number of times, whatever it holds: the
+// collection and array readers find all their items in one pass, and give
+// each item exactly what a search for that item's own tag would give.
 #pragma once
 
 #include <memory>
@@ -73,7 +77,8 @@ public:
     [[nodiscard]] String WriteDateBetween(const String& xml_tag_, Date value_) const;
     // ReadCollectionBetween - never Nothing; items come back as Strings. Reads
     // the XmlCollection form and the older Collection form. A Count above
-    // 1048576 items is taken as an allocation that failed: an empty collection.
+    // 1048576 items, or items nested so that their texts together pass 2^26
+    // code units, are taken as an allocation that failed: an empty collection.
     [[nodiscard]] std::shared_ptr<Collection> ReadCollectionBetween(const Variant& search_str,
                                                                     const String& xml_tag_) const;
     [[nodiscard]] Variant WriteCollectionBetween(const String& xml_tag_,
@@ -81,7 +86,8 @@ public:
     // ReadArrayBetween - reads the XmlArray form and the older Array form; an
     // absent tag gives one empty text at subscript 0, bounds that hold no
     // element an unallocated array, and so do bounds spanning more than
-    // 1048576 elements (an allocation that failed).
+    // 1048576 elements and items whose texts together pass 2^26 code units
+    // (an allocation that failed).
     [[nodiscard]] Array<String> ReadArrayBetween(const Variant& search_str, const String& xml_tag_) const;
     [[nodiscard]] Variant WriteArrayBetween(const String& xml_tag_, const Array<String>& arr_) const;
 };

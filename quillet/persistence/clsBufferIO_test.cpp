@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <vector>
+
+#include "quillet/frame/Failure.h"
+#include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/convert.h"
 #include "quillet/frame/utf8.h"
@@ -318,6 +323,106 @@ TEST(clsBufferIO, HostileBuffersGiveDefaultsWithoutFailing) {
         io.ReadCollectionBetween(Variant(u"<C><XmlCollection><Count>2000000000</Count></XmlCollection></C>"), u"C")
             ->Count(),
         0);
+    // Items nested in each other: their texts together grow with the square
+    // of the buffer, and past 2^26 code units the read counts as failed.
+    String nested = u"<C><XmlCollection><Count>20000</Count></XmlCollection>";
+    for (int i = 1; i <= 20000; ++i) nested += u"<Item" + numberText(i) + u">";
+    for (int i = 1; i <= 20000; ++i) nested += u"</Item" + numberText(i) + u">";
+    nested += u"</C>";
+    EXPECT_EQ(io.ReadCollectionBetween(Variant(nested), u"C")->Count(), 0);
+    EXPECT_EQ(io.ReadCollectionBetween(Variant(nested.substr(0, 60000) + u"</C>"), u"C")->Count(), 20000);
+}
+
+// The item readers find every item in one pass; what each item gets must be
+// what a search of the element for that item's own tag gives.
+std::vector<String> perItem(const Variant& buffer, bool array) {
+    const String outer = toText(io.ReadVariantBetween(buffer, u"C"));
+    String prefix = u"Item";
+    String inner = toText(io.ReadVariantBetween(Variant(outer), array ? u"XmlArray" : u"XmlCollection"));
+    if (inner.empty()) {
+        inner = toText(io.ReadVariantBetween(Variant(outer), array ? u"Array" : u"Collection"));
+        prefix.clear();
+    }
+    Long first = 1, last = 0;
+    attempt([&] { first = array ? toLong(io.ReadNumberBetween(Variant(inner), u"LBound")) : 1; });
+    attempt([&] { last = toLong(io.ReadNumberBetween(Variant(inner), array ? u"UBound" : u"Count")); });
+    std::vector<String> items;
+    // Collection items are searched in the caller's element, array items in the inner one.
+    const Variant searched(array ? inner : outer);
+    for (Long i = first; i <= last && last - first < (1 << 20); ++i)
+        items.push_back(io.ReadStringBetween(searched, prefix + numberText(i)));
+    return items;
+}
+
+std::vector<String> itemsOf(const std::shared_ptr<Collection>& c) {
+    std::vector<String> items;
+    for (Long i = 1; i <= c->Count(); ++i) items.push_back(toText(c->Item(i)));
+    return items;
+}
+
+std::vector<String> itemsOf(const Array<String>& a) {
+    std::vector<String> items;
+    if (a.isAllocated())
+        for (Long i = a.lbound(); i <= a.ubound(); ++i) items.push_back(a[i]);
+    return items;
+}
+
+TEST(clsBufferIO, ItemReadersGiveWhatThePerItemScanGives) {
+    using Items = std::vector<String>;
+    struct Row {
+        const char* name;
+        const char16_t* inside;  // the text inside <C>...</C>
+        Items collection;
+    };
+    const String head = u"<XmlCollection><Count>3</Count></XmlCollection>";
+    const Row rows[] = {
+        {"out of order", u"<Item3>c</Item3><Item1>a</Item1><Item2>b</Item2>", {u"a", u"b", u"c"}},
+        {"missing in the middle", u"<Item1>a</Item1><Item3>c</Item3>", {u"a", u"", u"c"}},
+        {"an item inside another", u"<Item1>x<Item2>y</Item2>z</Item1>", {u"x<Item2>y</Item2>z", u"y", u""}},
+        {"duplicated: the first wins", u"<Item2>first</Item2><Item2>second</Item2>", {u"", u"first", u""}},
+        {"same-named items nest", u"<Item1><Item1>i</Item1>o</Item1>", {u"<Item1>i</Item1>o", u"", u""}},
+        {"an unbalanced begin tag", u"<Item1><Item1>a</Item1><Item2>b</Item2>", {u"", u"b", u""}},
+        {"an end tag before the begin", u"</Item1><Item1>a</Item1>", {u"a", u"", u""}},
+        {"no leading zeros or minus zero", u"<Item01>a</Item01><Item-0>b</Item-0><Item3>c</Item3>", {u"", u"", u"c"}},
+        {"entities decoded once", u"<Item1>&amp;lt;</Item1>", {u"&lt;", u"", u""}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        const Variant buffer(u"<C>" + head + r.inside + u"</C>");
+        EXPECT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), r.collection);
+        EXPECT_EQ(perItem(buffer, false), r.collection);
+    }
+    // The older forms with bare numbers, and a negative subscript.
+    EXPECT_EQ(itemsOf(io.ReadCollectionBetween(
+                  Variant(u"<C><Collection><Count>2</Count></Collection><2>b</2><1>a</1></C>"), u"C")),
+              (Items{u"a", u"b"}));
+    EXPECT_EQ(itemsOf(io.ReadArrayBetween(
+                  Variant(u"<A><Array><LBound>-1</LBound><UBound>1</UBound><1>c</1><-1>a</-1></Array></A>"), u"A")),
+              (Items{u"a", u"", u"c"}));
+
+    // Many generated buffers of the pieces the readers react to.
+    const char16_t* pieces[] = {u"<Item1>", u"</Item1>", u"<Item2>", u"</Item2>", u"<Item3>", u"</Item3>",
+                                u"<1>",     u"</1>",     u"<2>",     u"</2>",     u"<-1>",    u"</-1>",
+                                u"<Item0>", u"</Item0>", u"<Item",   u">",        u"</",      u"x",
+                                u"&amp;",   u"&LT;",     u"<C>",     u"</C>",     u"<Item02>"};
+    const char16_t* heads[] = {u"<XmlCollection><Count>3</Count></XmlCollection>",
+                               u"<Collection><Count>3</Count></Collection>",
+                               u"<XmlArray><LBound>-1</LBound><UBound>3</UBound></XmlArray>",
+                               u"<Array><LBound>0</LBound><UBound>2</UBound></Array>",
+                               u"<XmlArray><LBound>-1</LBound><UBound>3</UBound>",
+                               u""};
+    std::mt19937 random(20260101);
+    for (int round = 0; round < 4000; ++round) {
+        String inside;
+        const int length = static_cast<int>(random() % 14);
+        for (int k = 0; k < length; ++k) inside += pieces[random() % std::size(pieces)];
+        String text = heads[random() % std::size(heads)];
+        text.insert(random() % (text.size() + 1), inside);
+        const Variant buffer(random() % 4 == 0 ? text : u"<C>" + text + u"</C>");
+        SCOPED_TRACE(toUtf8(*buffer.getIf<String>()));
+        ASSERT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), perItem(buffer, false));
+        ASSERT_EQ(itemsOf(io.ReadArrayBetween(buffer, u"C")), perItem(buffer, true));
+    }
 }
 
 }  // namespace

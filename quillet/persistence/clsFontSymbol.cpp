@@ -1,40 +1,41 @@
 #include "quillet/persistence/clsFontSymbol.h"
 
-#include "quillet/frame/Failure.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 
 namespace quillet {
 
-void clsFontSymbol::setDefaults() {
-    m_fontName = u"Arial";
-    m_fontChar = u"A";
+namespace {
+
+using persistence_internal::field;
+using persistence_internal::Record;
+using F = clsFontSymbol;
+
+// The fields in saved order: tag, getter, setter, fresh value, reader's
+// default. Absent tags read as empty texts, not as "Arial" and "A".
+const auto& record() {
+    static const Record r(u"FontSymbol", field(u"FontName", &F::getFontName, &F::setFontName, u"Arial", u""),
+                          field(u"FontChar", &F::getFontChar, &F::setFontChar, u"A", u""));
+    return r;
 }
 
+}  // namespace
+
+void clsFontSymbol::setDefaults() { record().setDefaults(*this); }
+
+// No guard against Nothing: each copy fails on its own and nothing changes.
 void clsFontSymbol::assignObject(const std::shared_ptr<clsFontSymbol>& font_symbol_) {
-    // No guard against Nothing: each copy fails on its own and nothing changes.
-    attempt([&] { setFontName(deref(font_symbol_).getFontName()); });
-    attempt([&] { setFontChar(deref(font_symbol_).getFontChar()); });
+    record().assign(*this, font_symbol_);
 }
 
-void clsFontSymbol::readObject(const Variant& buffer) {
-    const clsBufferIO io;
-    attempt([&] { setFontName(io.ReadStringBetween(buffer, u"FontName", String())); });
-    attempt([&] { setFontChar(io.ReadStringBetween(buffer, u"FontChar", String())); });
-}
+void clsFontSymbol::readObject(const Variant& buffer) { record().read(*this, buffer); }
 
-Variant clsFontSymbol::writeObject() const {
-    const clsBufferIO io;
-    String fields;
-    fields += io.WriteStringBetween(u"FontName", getFontName());
-    fields += io.WriteStringBetween(u"FontChar", getFontChar());
-    return io.WriteVariantBetween(getSaveTag(), Variant(std::move(fields)));
-}
+Variant clsFontSymbol::writeObject() const { return record().write(*this); }
 
 void clsFontSymbol::setFontName(const String& font_name_) { m_fontName = font_name_; }
 String clsFontSymbol::getFontName() const { return m_fontName; }
 void clsFontSymbol::setFontChar(const String& font_char_) { m_fontChar = font_char_; }
 String clsFontSymbol::getFontChar() const { return m_fontChar; }
 
-String clsFontSymbol::getSaveTag() const { return u"FontSymbol"; }
+String clsFontSymbol::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet

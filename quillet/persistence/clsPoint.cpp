@@ -5,14 +5,25 @@
 #include "quillet/frame/Failure.h"
 #include "quillet/frame/checked.h"
 #include "quillet/frame/convert.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 
 namespace quillet {
 
-void clsPoint::setDefaults() {
-    m_x = 0;
-    m_y = 0;
+namespace {
+
+using persistence_internal::field;
+using persistence_internal::Record;
+
+// The fields in saved order: tag, getter, setter, fresh value, reader's default.
+const auto& record() {
+    static const Record r(u"Point", field(u"X", &clsPoint::getX, &clsPoint::setX, 0, 0),
+                          field(u"Y", &clsPoint::getY, &clsPoint::setY, 0, 0));
+    return r;
 }
+
+}  // namespace
+
+void clsPoint::setDefaults() { record().setDefaults(*this); }
 
 void clsPoint::setX(Long x_) { m_x = x_; }
 Long clsPoint::getX() const { return m_x; }
@@ -38,23 +49,12 @@ void clsPoint::assignObject(const std::shared_ptr<clsPoint>& point_) {
         setDefaults();
         return;
     }
-    setX(point_->getX());
-    setY(point_->getY());
+    record().assign(*this, point_);
 }
 
-Variant clsPoint::writeObject() const {
-    const clsBufferIO io;
-    String fields;
-    fields += io.WriteNumberBetween(u"X", getX());
-    fields += io.WriteNumberBetween(u"Y", getY());
-    return io.WriteVariantBetween(getSaveTag(), Variant(std::move(fields)));
-}
+Variant clsPoint::writeObject() const { return record().write(*this); }
 
-void clsPoint::readObject(const Variant& buffer) {
-    const clsBufferIO io;
-    attempt([&] { setX(toLong(io.ReadNumberBetween(buffer, u"X"))); });
-    attempt([&] { setY(toLong(io.ReadNumberBetween(buffer, u"Y"))); });
-}
+void clsPoint::readObject(const Variant& buffer) { record().read(*this, buffer); }
 
 Long clsPoint::distanceFromPoint(const std::shared_ptr<clsPoint>& pt) const {
     Long result = 0;
@@ -67,6 +67,6 @@ Long clsPoint::distanceFromPoint(const std::shared_ptr<clsPoint>& pt) const {
     return result;
 }
 
-String clsPoint::getSaveTag() const { return u"Point"; }
+String clsPoint::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet

@@ -1,30 +1,37 @@
 #include "quillet/persistence/clsRulerSettings.h"
 
-#include "quillet/frame/Failure.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 
 namespace quillet {
 
-void clsRulerSettings::setDefaults() { m_visibility = True; }
+namespace {
+
+using persistence_internal::field;
+using persistence_internal::Record;
+using R = clsRulerSettings;
+
+const auto& record() {
+    static const Record r(u"RulerSettings",
+                          field(u"RulerVisibility", &R::getVisibility, &R::setVisibility, True, True));
+    return r;
+}
+
+}  // namespace
+
+void clsRulerSettings::setDefaults() { record().setDefaults(*this); }
 
 void clsRulerSettings::setVisibility(Boolean visibility_) { m_visibility = visibility_; }
 Boolean clsRulerSettings::getVisibility() const { return m_visibility; }
 
+// No guard against Nothing: the copy fails and nothing changes.
 void clsRulerSettings::assignObject(const std::shared_ptr<clsRulerSettings>& ruler_settings_) {
-    // No guard against Nothing: the copy fails and nothing changes.
-    attempt([&] { setVisibility(deref(ruler_settings_).getVisibility()); });
+    record().assign(*this, ruler_settings_);
 }
 
-Variant clsRulerSettings::writeObject() const {
-    const clsBufferIO io;
-    return io.WriteVariantBetween(getSaveTag(), Variant(io.WriteBooleanBetween(u"RulerVisibility", getVisibility())));
-}
+Variant clsRulerSettings::writeObject() const { return record().write(*this); }
 
-void clsRulerSettings::readObject(const Variant& buffer) {
-    const clsBufferIO io;
-    attempt([&] { setVisibility(io.ReadBooleanBetween(buffer, u"RulerVisibility", True)); });
-}
+void clsRulerSettings::readObject(const Variant& buffer) { record().read(*this, buffer); }
 
-String clsRulerSettings::getSaveTag() const { return u"RulerSettings"; }
+String clsRulerSettings::getSaveTag() const { return record().saveTag(); }
 
 }  // namespace quillet

@@ -6,8 +6,6 @@ namespace quillet {
 namespace {
 
 TEST(clsTokenValuePair, SavedFormRoundTripsWithTheValueAsRawText) {
-    const Variant fresh = std::make_shared<clsTokenValuePair>()->writeObject();
-    EXPECT_EQ(fresh, Variant(u"<TokenValuePair><Token></Token>\r\n<Value></Value>\r\n</TokenValuePair>\r\n"));
     auto pair = std::make_shared<clsTokenValuePair>();
     pair->setToken(u"T");
     pair->setValue(5);
@@ -15,8 +13,7 @@ TEST(clsTokenValuePair, SavedFormRoundTripsWithTheValueAsRawText) {
               Variant(u"<TokenValuePair><Token>T</Token>\r\n<Value>5</Value>\r\n</TokenValuePair>\r\n"));
     pair->readObject(pair->writeObject());
     EXPECT_EQ(pair->getValue(), Variant(u"5"));  // kinds are not saved
-    pair->readObject(fresh);
-    EXPECT_EQ(pair->getToken(), u"");
+    pair->readObject(std::make_shared<clsTokenValuePair>()->writeObject());
     EXPECT_EQ(pair->getValue(), Variant(u""));
     EXPECT_EQ(pair->isValueEmpty(), True);
 
@@ -58,12 +55,6 @@ TEST(clsTokenValuePair, AssignObjectWithNothingFillsTheCallersVariable) {
     EXPECT_EQ(pair->getValue().object<int>(), object);  // the same reference
     // An object value writes no Value element.
     EXPECT_EQ(pair->writeObject(), Variant(u"<TokenValuePair><Token>k</Token>\r\n</TokenValuePair>\r\n"));
-
-    std::shared_ptr<clsTokenValuePair> none;
-    pair->assignObject(none);
-    ASSERT_NE(none, nullptr);
-    EXPECT_EQ(pair->getToken(), u"");
-    EXPECT_EQ(pair->getValue(), Variant(u""));
 }
 
 }  // namespace

@@ -78,21 +78,21 @@ public:
 private:
     void setDefaults();
 
-    qltThermalPrintMode printMode = QLT_THERMAL_PRINT_MODE_DIRECT_THERMAL;
-    qltEPL2PageMode pageMode = QLT_EPL2_PAGE_MODE_GAP_SENSING;
-    Long gapHeight = 0;
-    qltThermalPrintSpeed printSpeed = QLT_PRINT_SPEED_SLOW;
-    qltThermalPrintDarkness printDarkness = QLT_PRINT_DARKNESS_LIGHT;
-    qltThermalPrintOrientation printOrientation = QLT_PRINT_ORIENTATION_TOP_FIRST;
-    qltThermalCutterMode cutterMode = QLT_THERMAL_CUTTER_DISABLED;
-    Boolean tapToPrint;
-    Boolean topOfFormBackup;
-    Long gapOffset = 0;
-    Long markHeight = 0;
-    Long markOffset = 0;
-    Long cutterInterval = 0;
-    Long cutPosition = 0;
-    Long extraFeed = 0;
+    qltThermalPrintMode m_printMode{};
+    qltEPL2PageMode m_pageMode{};
+    Long m_gapHeight{};
+    qltThermalPrintSpeed m_printSpeed{};
+    qltThermalPrintDarkness m_printDarkness{};
+    qltThermalPrintOrientation m_printOrientation{};
+    qltThermalCutterMode m_cutterMode{};
+    Boolean m_tapToPrint{};
+    Boolean m_topOfFormBackup{};
+    Long m_gapOffset{};
+    Long m_markHeight{};
+    Long m_markOffset{};
+    Long m_cutterInterval{};
+    Long m_cutPosition{};
+    Long m_extraFeed{};
 };
 
 }  // namespace quillet

@@ -1,22 +1,32 @@
 #include "quillet/settings/clsLogManagementSettings.h"
 
-#include "quillet/frame/Failure.h"
-#include "quillet/frame/convert.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
 
 namespace {
+
+using persistence_internal::field;
+using persistence_internal::Record;
+
 constexpr Long DEFAULT_LIMIT = 1000;
+
+using L = clsLogManagementSettings;
+
+// The fields in saved order: tag, getter, setter, fresh value, reader's default.
+const auto& record() {
+    static const Record r(u"LogManagementSettings",
+                          field(u"RemoveLogsByAge", &L::getRemoveLogsByAge, &L::setRemoveLogsByAge, False, False),
+                          field(u"RemoveLogsByCount", &L::getRemoveLogsByCount, &L::setRemoveLogsByCount, False, False),
+                          field(u"MaxLogAge", &L::getMaxLogAge, &L::setMaxLogAge, DEFAULT_LIMIT, DEFAULT_LIMIT),
+                          field(u"MaxLogCount", &L::getMaxLogCount, &L::setMaxLogCount, DEFAULT_LIMIT, DEFAULT_LIMIT));
+    return r;
+}
+
 }  // namespace
 
-void clsLogManagementSettings::setDefaults() {
-    m_removeLogsByAge = False;
-    m_removeLogsByCount = False;
-    m_maxLogAge = DEFAULT_LIMIT;
-    m_maxLogCount = DEFAULT_LIMIT;
-}
+void clsLogManagementSettings::setDefaults() { record().setDefaults(*this); }
 
 void clsLogManagementSettings::assignObject(std::shared_ptr<clsLogManagementSettings>& log_management_settings_) {
     // Given Nothing, the caller's variable receives a fresh object, whose
@@ -24,34 +34,17 @@ void clsLogManagementSettings::assignObject(std::shared_ptr<clsLogManagementSett
     if (!log_management_settings_) {
         attempt([&] { log_management_settings_ = std::make_shared<clsLogManagementSettings>(); });
     }
-    attempt([&] { setRemoveLogsByAge(deref(log_management_settings_).getRemoveLogsByAge()); });
-    attempt([&] { setRemoveLogsByCount(deref(log_management_settings_).getRemoveLogsByCount()); });
-    attempt([&] { setMaxLogAge(deref(log_management_settings_).getMaxLogAge()); });
-    attempt([&] { setMaxLogCount(deref(log_management_settings_).getMaxLogCount()); });
+    record().assign(*this, log_management_settings_);
 }
 
 void clsLogManagementSettings::readObject(Variant buffer_) {
     if (clsNumericHandling{}.isVariantValueEmpty(buffer_)) return;
-    const clsBufferIO io;
-    attempt([&] { setRemoveLogsByAge(io.ReadBooleanBetween(buffer_, u"RemoveLogsByAge", False)); });
-    attempt([&] { setRemoveLogsByCount(io.ReadBooleanBetween(buffer_, u"RemoveLogsByCount", False)); });
-    attempt([&] { setMaxLogAge(toLong(io.ReadNumberBetween(buffer_, u"MaxLogAge", DEFAULT_LIMIT))); });
-    attempt([&] { setMaxLogCount(toLong(io.ReadNumberBetween(buffer_, u"MaxLogCount", DEFAULT_LIMIT))); });
+    record().read(*this, buffer_);
 }
 
-Variant clsLogManagementSettings::writeObject() const {
-    const clsBufferIO io;
-    String fields;
-    fields += io.WriteBooleanBetween(u"RemoveLogsByAge", getRemoveLogsByAge());
-    fields += io.WriteBooleanBetween(u"RemoveLogsByCount", getRemoveLogsByCount());
-    fields += io.WriteNumberBetween(u"MaxLogAge", getMaxLogAge());
-    fields += io.WriteNumberBetween(u"MaxLogCount", getMaxLogCount());
-    Variant result;
-    attempt([&] { result = io.WriteVariantBetween(getSaveTag(), Variant(std::move(fields))); });
-    return result;
-}
+Variant clsLogManagementSettings::writeObject() const { return record().write(*this); }
 
-String clsLogManagementSettings::getSaveTag() const { return u"LogManagementSettings"; }
+String clsLogManagementSettings::getSaveTag() const { return record().saveTag(); }
 
 void clsLogManagementSettings::setRemoveLogsByAge(Boolean remove_logs_by_age_) {
     m_removeLogsByAge = remove_logs_by_age_;

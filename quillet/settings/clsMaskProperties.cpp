@@ -2,50 +2,41 @@
 
 #include <algorithm>
 
-#include "quillet/frame/Failure.h"
-#include "quillet/frame/convert.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 
 namespace quillet {
 
-void clsMaskProperties::setDefaults() {
-    m_applyMaskColor = False;
-    m_maskColorOption = QLT_MCO_AUTO_DETECT;
-    m_maskColor = 0;
-    m_maskTolerance = 0;
+namespace {
+
+using persistence_internal::field;
+using persistence_internal::Record;
+using M = clsMaskProperties;
+
+// The fields in saved order: tag, getter, setter, fresh value, reader's
+// default. The tolerance is clamped by its setter on every road in.
+const auto& record() {
+    static const Record r(
+        u"MaskProperties", field(u"ApplyMaskColor", &M::getApplyMaskColor, &M::setApplyMaskColor, False, False),
+        field(u"MaskColorOption", &M::getMaskColorOption, &M::setMaskColorOption, QLT_MCO_AUTO_DETECT, 0),
+        field(u"MaskColor", &M::getMaskColor, &M::setMaskColor, 0, 0),
+        field(u"MaskTolerance", &M::getMaskTolerance, &M::setMaskTolerance, 0, 0));
+    return r;
 }
 
+}  // namespace
+
+void clsMaskProperties::setDefaults() { record().setDefaults(*this); }
+
+// No guard against Nothing: each copy fails on its own and nothing changes.
 void clsMaskProperties::assignObject(const std::shared_ptr<clsMaskProperties>& mask_properties_) {
-    // No guard against Nothing: each copy fails on its own and nothing changes.
-    attempt([&] { setApplyMaskColor(deref(mask_properties_).getApplyMaskColor()); });
-    attempt([&] { setMaskColorOption(deref(mask_properties_).getMaskColorOption()); });
-    attempt([&] { setMaskColor(deref(mask_properties_).getMaskColor()); });
-    attempt([&] { setMaskTolerance(deref(mask_properties_).getMaskTolerance()); });
+    record().assign(*this, mask_properties_);
 }
 
-void clsMaskProperties::readObject(const Variant& buffer) {
-    const clsBufferIO io;
-    attempt([&] { setApplyMaskColor(io.ReadBooleanBetween(buffer, u"ApplyMaskColor", False)); });
-    attempt([&] {
-        setMaskColorOption(static_cast<QltMaskColorOption>(toLong(io.ReadNumberBetween(buffer, u"MaskColorOption"))));
-    });
-    attempt([&] { setMaskColor(toLong(io.ReadNumberBetween(buffer, u"MaskColor"))); });
-    attempt([&] { setMaskTolerance(toLong(io.ReadNumberBetween(buffer, u"MaskTolerance"))); });
-}
+void clsMaskProperties::readObject(const Variant& buffer) { record().read(*this, buffer); }
 
-Variant clsMaskProperties::writeObject() const {
-    const clsBufferIO io;
-    String fields;
-    fields += io.WriteBooleanBetween(u"ApplyMaskColor", getApplyMaskColor());
-    fields += io.WriteNumberBetween(u"MaskColorOption", Long{getMaskColorOption()});
-    fields += io.WriteNumberBetween(u"MaskColor", getMaskColor());
-    fields += io.WriteNumberBetween(u"MaskTolerance", getMaskTolerance());
-    Variant result;
-    attempt([&] { result = io.WriteVariantBetween(getSaveTag(), Variant(std::move(fields))); });
-    return result;
-}
+Variant clsMaskProperties::writeObject() const { return record().write(*this); }
 
-String clsMaskProperties::getSaveTag() const { return u"MaskProperties"; }
+String clsMaskProperties::getSaveTag() const { return record().saveTag(); }
 
 void clsMaskProperties::setApplyMaskColor(Boolean apply_mask_color_) { m_applyMaskColor = apply_mask_color_; }
 Boolean clsMaskProperties::getApplyMaskColor() const { return m_applyMaskColor; }

@@ -7,12 +7,6 @@
 namespace quillet {
 namespace {
 
-std::string saved(const clsOptionsLayers& l) {
-    const Variant buffer = l.writeObject();
-    const String* text = buffer.getIf<String>();
-    return text ? toUtf8(*text) : std::string("<not a String>");
-}
-
 std::shared_ptr<clsOptionsLayers> changed() {
     auto l = std::make_shared<clsOptionsLayers>();
     l->setX(-3);
@@ -29,31 +23,8 @@ void expectValues(const clsOptionsLayers& l, Long x, Long y, Long width, Long he
     EXPECT_EQ(l.getHeight(), height) << where;
 }
 
-const char* const FRESH_TEXT =
-    "<LayersOptions><Point><X>690</X>\r\n<Y>1005</Y>\r\n</Point>\r\n"
-    "<Width>0</Width>\r\n<Height>0</Height>\r\n</LayersOptions>\r\n";
-
-TEST(clsOptionsLayers, FreshObjectSavesTheGoldenTextWithTheNestedPoint) {
-    clsOptionsLayers fresh;
-    expectValues(fresh, 690, 1005, 0, 0, "fresh");
-    EXPECT_EQ(fresh.getSaveTag(), u"LayersOptions");
-    EXPECT_EQ(saved(fresh), FRESH_TEXT);
-
-    auto other = changed();
-    other->readObject(fresh.writeObject());
-    expectValues(*other, 690, 1005, 0, 0, "read back");
-
-    clsOptionsLayers copy;
-    copy.readObject(changed()->writeObject());
-    expectValues(copy, -3, 44, 300, 200, "changed round trip");
-}
-
-TEST(clsOptionsLayers, AbsentPointReadsAsOriginAndEmptyBufferKeepsAll) {
+TEST(clsOptionsLayers, ThePointReadsOnlyItsOwnSection) {
     auto l = changed();
-    for (const Variant& empty : {Variant(), Variant(u""), Variant::null(), Variant(Nothing)}) {
-        l->readObject(empty);
-        expectValues(*l, -3, 44, 300, 200, "empty buffer");
-    }
     l->readObject(Variant(u"<Width>77</Width>\r\n"));
     expectValues(*l, 0, 0, 77, 0, "width only");
 
@@ -88,20 +59,6 @@ TEST(clsOptionsLayers, PositionIsHeldNotShared) {
     ASSERT_NE(none, nullptr);
     EXPECT_EQ(l.getX(), 0);
     EXPECT_EQ(l.getY(), 0);
-}
-
-TEST(clsOptionsLayers, AssignObjectCopiesValuesAndNothingGivesDefaults) {
-    auto source = changed();
-    auto target = std::make_shared<clsOptionsLayers>();
-    target->assignObject(source);
-    expectValues(*target, -3, 44, 300, 200, "copied");
-    EXPECT_NE(target->getPosition(), source->getPosition());
-
-    std::shared_ptr<clsOptionsLayers> none;
-    target->assignObject(none);
-    ASSERT_NE(none, nullptr);
-    expectValues(*none, 690, 1005, 0, 0, "new object");
-    expectValues(*target, 690, 1005, 0, 0, "target took the defaults");
 }
 
 }  // namespace

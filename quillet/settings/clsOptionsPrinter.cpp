@@ -1,72 +1,50 @@
 #include "quillet/settings/clsOptionsPrinter.h"
 
-#include "quillet/frame/Failure.h"
-#include "quillet/frame/convert.h"
-#include "quillet/persistence/clsBufferIO.h"
+#include "quillet/persistence/internal/Record.h"
 #include "quillet/text/clsNumericHandling.h"
 
 namespace quillet {
 
 namespace {
-constexpr Long DEFAULT_FONT_SIZE = 9;
-}  // namespace
 
-void clsOptionsPrinter::setDefaults() {
-    m_printerName.clear();
-    m_printAsGraphics = False;
-    m_spoolEachPage = False;
-    m_gridLineOption = RGL_NONE;
-    m_printColumnCaptions = True;
-    m_reprintFirstCol = True;
-    m_numberOfCopies = 1;
-    m_printerFontSize = DEFAULT_FONT_SIZE;
+using persistence_internal::field;
+using persistence_internal::Record;
+using P = clsOptionsPrinter;
+
+constexpr Long DEFAULT_FONT_SIZE = 9;
+
+// The fields in saved order: tag, getter, setter, fresh value, reader's
+// default.
+const auto& record() {
+    static const Record r(
+        u"Options", field(u"PrinterName", &P::getPrinterName, &P::setPrinterName, u"", u""),
+        field(u"PrintAsGraphics", &P::getPrintAsGraphics, &P::setPrintAsGraphics, False, False),
+        field(u"SpoolEachPage", &P::getSpoolEachPage, &P::setSpoolEachPage, False, False),
+        field(u"GridLineOption", &P::getGridLineOption, &P::setGridLineOption, RGL_NONE, 0),
+        field(u"PrintColumnCaptions", &P::getPrintColumnCaptions, &P::setPrintColumnCaptions, True, True),
+        field(u"ReprintFirstCol", &P::getReprintFirstCol, &P::setReprintFirstCol, True, True),
+        field(u"PrinterFontSize", &P::getPrinterFontSize, &P::setPrinterFontSize, DEFAULT_FONT_SIZE, DEFAULT_FONT_SIZE),
+        field(u"NumberOfCopies", &P::getNumberOfCopies, &P::setNumberOfCopies, 1, 1));
+    return r;
 }
 
+}  // namespace
+
+void clsOptionsPrinter::setDefaults() { record().setDefaults(*this); }
+
+// No guard against Nothing: each copy fails on its own and nothing changes.
 void clsOptionsPrinter::assignObject(std::shared_ptr<clsOptionsPrinter> printer_options_) {
-    // No guard against Nothing: each copy fails on its own and nothing changes.
-    attempt([&] { setPrinterName(deref(printer_options_).getPrinterName()); });
-    attempt([&] { setPrintAsGraphics(deref(printer_options_).getPrintAsGraphics()); });
-    attempt([&] { setSpoolEachPage(deref(printer_options_).getSpoolEachPage()); });
-    attempt([&] { setGridLineOption(deref(printer_options_).getGridLineOption()); });
-    attempt([&] { setPrintColumnCaptions(deref(printer_options_).getPrintColumnCaptions()); });
-    attempt([&] { setReprintFirstCol(deref(printer_options_).getReprintFirstCol()); });
-    attempt([&] { setNumberOfCopies(deref(printer_options_).getNumberOfCopies()); });
-    attempt([&] { setPrinterFontSize(deref(printer_options_).getPrinterFontSize()); });
+    record().assign(*this, printer_options_);
 }
 
 void clsOptionsPrinter::readObject(const Variant& buffer_) {
     if (clsNumericHandling{}.isVariantValueEmpty(buffer_)) return;
-    const clsBufferIO io;
-    attempt([&] { setPrinterName(io.ReadStringBetween(buffer_, u"PrinterName", u"")); });
-    attempt([&] { setPrintAsGraphics(io.ReadBooleanBetween(buffer_, u"PrintAsGraphics", False)); });
-    attempt([&] { setSpoolEachPage(io.ReadBooleanBetween(buffer_, u"SpoolEachPage", False)); });
-    attempt([&] {
-        setGridLineOption(
-            static_cast<QLTReportGridLines>(toLong(io.ReadNumberBetween(buffer_, u"GridLineOption", Long{0}))));
-    });
-    attempt([&] { setPrintColumnCaptions(io.ReadBooleanBetween(buffer_, u"PrintColumnCaptions", True)); });
-    attempt([&] { setReprintFirstCol(io.ReadBooleanBetween(buffer_, u"ReprintFirstCol", True)); });
-    attempt([&] { setPrinterFontSize(toLong(io.ReadNumberBetween(buffer_, u"PrinterFontSize", DEFAULT_FONT_SIZE))); });
-    attempt([&] { setNumberOfCopies(toLong(io.ReadNumberBetween(buffer_, u"NumberOfCopies", Long{1}))); });
+    record().read(*this, buffer_);
 }
 
-Variant clsOptionsPrinter::writeObject() const {
-    const clsBufferIO io;
-    String fields;
-    fields += io.WriteStringBetween(u"PrinterName", getPrinterName());
-    fields += io.WriteBooleanBetween(u"PrintAsGraphics", getPrintAsGraphics());
-    fields += io.WriteBooleanBetween(u"SpoolEachPage", getSpoolEachPage());
-    fields += io.WriteNumberBetween(u"GridLineOption", Long{getGridLineOption()});
-    fields += io.WriteBooleanBetween(u"PrintColumnCaptions", getPrintColumnCaptions());
-    fields += io.WriteBooleanBetween(u"ReprintFirstCol", getReprintFirstCol());
-    fields += io.WriteNumberBetween(u"PrinterFontSize", getPrinterFontSize());
-    fields += io.WriteNumberBetween(u"NumberOfCopies", getNumberOfCopies());
-    Variant result;
-    attempt([&] { result = io.WriteVariantBetween(getSaveTag(), Variant(std::move(fields))); });
-    return result;
-}
+Variant clsOptionsPrinter::writeObject() const { return record().write(*this); }
 
-String clsOptionsPrinter::getSaveTag() const { return u"Options"; }
+String clsOptionsPrinter::getSaveTag() const { return record().saveTag(); }
 
 void clsOptionsPrinter::setPrinterName(const String& printer_name_) { m_printerName = printer_name_; }
 String clsOptionsPrinter::getPrinterName() const { return m_printerName; }

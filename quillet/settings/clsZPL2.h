@@ -85,23 +85,23 @@ public:
 private:
     void setDefaults();
 
-    qltThermalPrintMode printMode = QLT_THERMAL_PRINT_MODE_DIRECT_THERMAL;
-    qltZPL2PageMode pageMode = QLT_ZPL2_PAGE_MODE_WEB_SENSING;
-    qltThermalPrintSpeed printSpeed = QLT_PRINT_SPEED_SLOW;
-    qltThermalPrintSpeed slewSpeed = QLT_PRINT_SPEED_SLOW;
-    qltThermalPrintSpeed backfeedSpeed = QLT_PRINT_SPEED_SLOW;
-    qltThermalPrintDarkness printDarkness = QLT_PRINT_DARKNESS_LIGHT;
-    qltThermalPrintOrientation printOrientation = QLT_PRINT_ORIENTATION_TOP_FIRST;
-    qltZPL2FeedMode feedMode = QLT_ZPL2_FEED_MODE_TEAR_OFF;
-    Boolean pauseAfterCut;
-    qltZPL2PauseMode pauseMode = QLT_ZPL2_NO_PAUSE;
-    Long pauseInterval = 0;
-    qltThermalCutterMode cutterMode = QLT_THERMAL_CUTTER_DISABLED;
-    Long cutterInterval = 0;
-    qltZPL2BackfeedMode backfeedMode = QLT_ZPL2_BACKFEED_NORMAL;
-    Long backfeedPercentage = 0;
-    Long topAdjustment = 0;
-    Long tearOffAdjustment = 0;
+    qltThermalPrintMode m_printMode{};
+    qltZPL2PageMode m_pageMode{};
+    qltThermalPrintSpeed m_printSpeed{};
+    qltThermalPrintSpeed m_slewSpeed{};
+    qltThermalPrintSpeed m_backfeedSpeed{};
+    qltThermalPrintDarkness m_printDarkness{};
+    qltThermalPrintOrientation m_printOrientation{};
+    qltZPL2FeedMode m_feedMode{};
+    Boolean m_pauseAfterCut;
+    qltZPL2PauseMode m_pauseMode{};
+    Long m_pauseInterval{};
+    qltThermalCutterMode m_cutterMode{};
+    Long m_cutterInterval{};
+    qltZPL2BackfeedMode m_backfeedMode{};
+    Long m_backfeedPercentage{};
+    Long m_topAdjustment{};
+    Long m_tearOffAdjustment{};
 };
 
 }  // namespace quillet

@@ -1,4 +1,4 @@
-// quillet/persistence/modMisc.h - a private helper of the tag buffer: the
+// quillet/persistence/internal/modMisc.h - a private helper of the tag buffer: the
 // reading of a saved boolean text. Not part of the public interface.
 //
 //   modMisc::readBooleanText(u"  YES ", False)   True
@@ -9,11 +9,11 @@
 
 #include "quillet/frame/types.h"
 
-namespace quillet::modMisc {
+namespace quillet::persistence_internal::modMisc {
 
 // readBooleanText - blanks trimmed from both ends, case ignored: "true" and
 // "yes" give True, "false" and "no" give False; anything else, the empty text
 // included, gives `default_value_` as it is.
-[[nodiscard]] Boolean readBooleanText(const String& text, Boolean default_value_) noexcept;
+[[nodiscard]] Boolean readBooleanText(StringView text, Boolean default_value_) noexcept;
 
-}  // namespace quillet::modMisc
+}  // namespace quillet::persistence_internal::modMisc

@@ -1,10 +1,10 @@
-#include "quillet/persistence/modMisc.h"
+#include "quillet/persistence/internal/modMisc.h"
 
 #include "quillet/frame/trim.h"
 
-namespace quillet::modMisc {
+namespace quillet::persistence_internal::modMisc {
 
-Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
+Boolean readBooleanText(StringView text, Boolean default_value_) noexcept {
     const StringView s = trimBlanks(text);
     // The four words are ASCII, and no other character lower-cases into
     // ASCII letters, so ASCII lower-casing decides exactly as full lower-casing.
@@ -20,4 +20,4 @@ Boolean readBooleanText(const String& text, Boolean default_value_) noexcept {
     return default_value_;
 }
 
-}  // namespace quillet::modMisc
+}  // namespace quillet::persistence_internal::modMisc

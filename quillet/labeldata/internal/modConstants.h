@@ -1,4 +1,4 @@
-// quillet/labeldata/modConstants.h - the private constants that the label
+// quillet/labeldata/internal/modConstants.h - the private constants that the label
 // data classes share. Not part of the public interface: hosts read these
 // values through clsConstants.
 #pragma once
@@ -6,7 +6,7 @@
 #include "quillet/frame/enums.h"
 #include "quillet/frame/types.h"
 
-namespace quillet::modConstants {
+namespace quillet::labeldata_internal::modConstants {
 
 inline constexpr QltPageOrientation DEFAULT_PRINT_ORIENTATION = QLT_PORTRAIT;
 inline constexpr const char16_t* DEFAULT_FONT_NAME = u"Arial";
@@ -44,4 +44,4 @@ inline constexpr Long DEFAULT_UCC128_DATA_FORMAT_MAX_LENGTH = 18;
 inline constexpr bool DEFAULT_UCC128_USES_DATA_CHECK_DIGIT = true;
 inline constexpr bool DEFAULT_UCC128_HAS_PREDEFINED_LENGTH = true;
 
-}  // namespace quillet::modConstants
+}  // namespace quillet::labeldata_internal::modConstants
