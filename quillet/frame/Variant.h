@@ -21,6 +21,7 @@
 // structural equality (same kind, same value), meant for tests and containers.
 #pragma once
 
+#include <iosfwd>
 #include <memory>
 #include <typeindex>
 #include <typeinfo>
@@ -139,5 +140,12 @@ public:
 private:
     Storage value_;
 };
+
+// The value and its kind, texts quoted with CR, LF, tab and NUL escaped, for hosts' logs and
+// test failure messages (see print.h). Declared beside the type so that every file that sees
+// Variant sees the same printer: GoogleTest would dump the bytes in a file that does not
+// include print.h, and one program would hold two printers for one type.
+std::ostream& operator<<(std::ostream& out, const Variant& value);
+void PrintTo(const Variant& value, std::ostream* out);
 
 }  // namespace quillet
