@@ -6,8 +6,9 @@
 namespace quillet {
 
 void clsFontSymbol::setDefaults() {
-    m_fontName = u"Arial";
-    m_fontChar = u"A";
+    // Assigned as Strings: g++ 12 at -O3 misreads assign(const char16_t*) as an overlapping copy (-Wrestrict).
+    m_fontName = String(u"Arial");
+    m_fontChar = String(u"A");
 }
 
 void clsFontSymbol::assignObject(const std::shared_ptr<clsFontSymbol>& font_symbol_) {
