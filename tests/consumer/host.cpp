@@ -1,10 +1,10 @@
 // A host that includes X11 first, has an operator<< of its own and prints
 // quillet's Strings from its own namespace.
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
 #include <X11/Xatom.h>
+#include <X11/Xlib.h>
 #include <X11/Xos.h>
 #include <X11/Xresource.h>
+#include <X11/Xutil.h>
 #include <X11/keysym.h>
 
 #include <quillet/quillet.h>
