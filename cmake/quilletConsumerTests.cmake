@@ -5,8 +5,11 @@
 enable_testing()
 set(QUILLET_CONSUMER_PREFIX ${PROJECT_BINARY_DIR}/consumer/prefix)
 
+# The consumers' build folders go with the old install: a cached pkg-config
+# answer would hide a changed quillet.pc.
 add_test(NAME consumer.install
   COMMAND ${CMAKE_COMMAND} -DBUILD_DIR=${PROJECT_BINARY_DIR} -DPREFIX=${QUILLET_CONSUMER_PREFIX}
+    -DCONSUMER_DIRS=${PROJECT_BINARY_DIR}/consumer
     -DLIBDIR=${CMAKE_INSTALL_LIBDIR} -DINCLUDEDIR=${CMAKE_INSTALL_INCLUDEDIR}
     -P ${PROJECT_SOURCE_DIR}/cmake/quilletInstallCheck.cmake)
 set_tests_properties(consumer.install PROPERTIES LABELS consumer FIXTURES_SETUP quillet_installed)

@@ -1,8 +1,15 @@
-# cmake -DBUILD_DIR=... -DPREFIX=... -DLIBDIR=... -DINCLUDEDIR=... -P quilletInstallCheck.cmake
+# cmake -DBUILD_DIR=... -DPREFIX=... -DLIBDIR=... -DINCLUDEDIR=... [-DCONSUMER_DIRS=...] -P quilletInstallCheck.cmake
 # Installs the build into PREFIX, afresh, and checks that only the public
 # headers went (no internal/ folder, no test) beside the library and both
-# package descriptions.
+# package descriptions. Removes the consumers' build folders (CONSUMER_DIRS/*-*)
+# too, so that each consumer starts from nothing.
 file(REMOVE_RECURSE ${PREFIX})
+if(CONSUMER_DIRS)
+  file(GLOB old LIST_DIRECTORIES true ${CONSUMER_DIRS}/*-*)
+  if(old)
+    file(REMOVE_RECURSE ${old})
+  endif()
+endif()
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${PREFIX} COMMAND_ERROR_IS_FATAL ANY)
 
 set(problems "")
