@@ -73,6 +73,6 @@ int main() {
     auto older = std::make_shared<clsOptionsBarcode>();
     older->readObject(Variant(u"<OptionsBarcode><BarReduction>250</BarReduction>\r\n</OptionsBarcode>\r\n"));
     show("a hand-edited 250 reads back clamped", numberText(older->getBarReduction()));
-    show("and the absent \"AI\" reads as", u"\"" + older->getAI() + u"\" (not \"00\")");
+    show("and the absent \"AI\" reads as", String(u"\"") + older->getAI() + u"\" (not \"00\")");
     return 0;
 }

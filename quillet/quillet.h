@@ -6,7 +6,31 @@
 //   auto barcode = std::make_shared<clsOptionsBarcode>();
 //   barcode->setBarReduction(150);                  // clamped to 100
 //   Variant saved = barcode->writeObject();         // u"<OptionsBarcode>...</OptionsBarcode>\r\n"
+//
+// A host may include the X11 headers first: their macros True, False, None,
+// Bool, Status, Success and index are set aside while the library's headers
+// are read, and are back, unchanged, after this include. (Include this header
+// rather than single ones of the library after X11. Spelled after the include,
+// quillet::True would still meet X11's macro; write quillet::Boolean(true).)
 #pragma once
+
+// Pushing a macro that is not defined is allowed; popping it leaves it undefined.
+#pragma push_macro("True")
+#pragma push_macro("False")
+#pragma push_macro("None")
+#pragma push_macro("Bool")
+#pragma push_macro("Status")
+#pragma push_macro("Success")
+#pragma push_macro("index")
+#pragma push_macro("rindex")
+#undef True
+#undef False
+#undef None
+#undef Bool
+#undef Status
+#undef Success
+#undef index
+#undef rindex
 
 #include "quillet/frame/Array.h"
 #include "quillet/frame/Calendar.h"
@@ -64,3 +88,12 @@
 #include "quillet/settings/clsPrintCounter.h"
 #include "quillet/settings/clsSystemData.h"
 #include "quillet/settings/clsZPL2.h"
+
+#pragma pop_macro("rindex")
+#pragma pop_macro("index")
+#pragma pop_macro("Success")
+#pragma pop_macro("Status")
+#pragma pop_macro("Bool")
+#pragma pop_macro("None")
+#pragma pop_macro("False")
+#pragma pop_macro("True")

@@ -22,6 +22,7 @@
 // for tests and containers.
 #pragma once
 
+#include <iosfwd>
 #include <memory>
 #include <typeindex>
 #include <typeinfo>
@@ -140,5 +141,12 @@ public:
 private:
     Storage m_value;
 };
+
+// The value and its kind, texts quoted with CR, LF, tab and NUL escaped, for hosts' logs and
+// test failure messages (see print.h). Declared beside the type so that every file that sees
+// Variant sees the same printer: GoogleTest would dump the bytes in a file that does not
+// include print.h, and one program would hold two printers for one type.
+std::ostream& operator<<(std::ostream& out, const Variant& value);
+void PrintTo(const Variant& value, std::ostream* out);
 
 }  // namespace quillet
