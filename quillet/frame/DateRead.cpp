@@ -14,6 +14,7 @@
 #include "quillet/frame/Clock.h"
 #include "quillet/frame/DateText.h"
 #include "quillet/frame/Failure.h"
+#include "quillet/frame/NumberScan.h"
 #include "quillet/frame/NumberText.h"
 #include "quillet/frame/RegionalSettings.h"
 #include "quillet/frame/TextCompare.h"
@@ -42,23 +43,6 @@ struct Part {
     bool dayName = false;
     bool isT = false;  // the T between an ISO date and its time
 };
-
-// The digit run at `at`: at most nine digits, read as a whole number. `end`
-// is where the run stops; no value when it is longer.
-struct DigitRun {
-    long long value = 0;
-    int digits = 0;
-    std::size_t end = 0;
-};
-
-std::optional<DigitRun> readDigitRun(StringView text, std::size_t at) noexcept {
-    DigitRun run;
-    for (run.end = at; run.end < text.size() && isDigit(text[run.end]); ++run.end) {
-        if (++run.digits > 9) return std::nullopt;
-        run.value = run.value * 10 + (text[run.end] - u'0');
-    }
-    return run;
-}
 
 bool isTimeSeparator(char16_t c, const RegionalSettings& rs) noexcept {
     if (c == u':') return true;
@@ -120,12 +104,13 @@ bool cut(StringView text, const RegionalSettings& rs, Parts& parts) {
         Part& part = parts.items[parts.size++];
         const char16_t c = text[i];
         if (isDigit(c)) {
-            const auto run = readDigitRun(text, i);
-            if (!run) return false;
+            // No part of a date has ten digits.
+            const DigitRun run = scanDigits(text, i, 9);
+            if (run.tooLong) return false;
             part.kind = Part::Number;
-            part.value = run->value;
-            part.digits = run->digits;
-            i = run->end;
+            part.value = static_cast<long long>(run.value);
+            part.digits = run.digits;
+            i = run.end;
         } else if (isTimeSeparator(c, rs)) {
             part.kind = Part::TimeSep;
             ++i;

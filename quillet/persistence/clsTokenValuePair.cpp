@@ -1,6 +1,7 @@
 #include "quillet/persistence/clsTokenValuePair.h"
 
 #include "quillet/frame/Failure.h"
+#include "quillet/frame/VariantCompare.h"
 #include "quillet/persistence/clsBufferIO.h"
 #include "quillet/text/clsNumericHandling.h"
 
@@ -27,15 +28,12 @@ Variant clsTokenValuePair::getValue() const { return m_value; }
 Boolean clsTokenValuePair::isValueEmpty() const { return clsNumericHandling().isVariantValueEmpty(m_value); }
 
 void clsTokenValuePair::readObject(const Variant& buffer) {
-    // The comparison with the empty text: Empty equals it, a number does not,
-    // and Null, objects and arrays cannot be compared, which takes the branch
-    // that reads nothing.
+    // The buffer compared with the empty text: Empty equals it, a number is
+    // below it; Null (an unknown answer) and the objects and arrays that
+    // cannot be compared take the branch that reads nothing.
     const bool isEmptyText = attemptTest([&] {
-        if (const String* s = buffer.getIf<String>()) return s->empty();
-        if (buffer.isEmpty()) return true;
-        if (buffer.isNull() || buffer.isObject() || buffer.isArray() || buffer.getIf<ErrorValue>())
-            throw Failure(errTypeMismatch);
-        return false;
+        const VariantOrder order = compareVariants(buffer, Variant(String()));
+        return order == VariantOrder::Equal || order == VariantOrder::Null;
     });
     if (isEmptyText) return;
     const clsBufferIO io;

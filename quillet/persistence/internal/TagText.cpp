@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "quillet/frame/Failure.h"
+#include "quillet/frame/NumberScan.h"
 #include "quillet/frame/TextCompare.h"
 #include "quillet/frame/convert.h"
 #include "quillet/text/clsString.h"
@@ -179,15 +180,12 @@ std::optional<long long> itemNumber(StringView text, std::size_t i, std::size_t&
         ++i;
     }
     const std::size_t first = i;
-    long long value = 0;
-    // Eleven digits are enough to see that a number is past a Long.
-    while (i < text.size() && text[i] >= u'0' && text[i] <= u'9' && i - first < 11) {
-        value = value * 10 + (text[i] - u'0');
-        ++i;
-    }
-    const std::size_t digits = i - first;
-    if (digits == 0 || i >= text.size() || text[i] != u'>') return std::nullopt;
-    if (text[first] == u'0' && (digits > 1 || negative)) return std::nullopt;
+    // A Long has at most ten digits: a longer run names no item.
+    const DigitRun run = scanDigits(text, i, 10);
+    if (run.digits == 0 || run.tooLong || run.end >= text.size() || text[run.end] != u'>') return std::nullopt;
+    if (text[first] == u'0' && (run.digits > 1 || negative)) return std::nullopt;
+    i = run.end;
+    auto value = static_cast<long long>(run.value);
     if (negative) value = -value;
     if (value < std::numeric_limits<Long>::min() || value > std::numeric_limits<Long>::max()) return std::nullopt;
     close = i;
