@@ -69,6 +69,17 @@ void appendItem(String& out, long long subscript, StringView text) {
     out += pi::CRLF;
 }
 
+// readWithDefault - the element's text through `read`, or the default's text
+// when the element is absent or empty and a default was given. A present
+// element of blanks is not empty: it is read, not replaced by the default.
+template <class Read>
+auto readWithDefault(const Variant& search_str, const String& xml_tag, const Variant& default_value, Read read) {
+    const BufferText buffer(search_str);
+    const StringView text = pi::elementText(buffer.view(), TagPair(xml_tag));
+    if (!text.empty() || default_value.isMissing()) return read(text, true);
+    return read(toText(default_value), false);
+}
+
 }  // namespace
 
 Boolean clsBufferIO::isTagPresent(const Variant& search_str_, const String& xml_tag_) const {
@@ -98,15 +109,8 @@ Variant clsBufferIO::ReadNumberBetween(const Variant& search_str_, const String&
                                        const Variant& default_value_) const {
     Variant result;
     attempt([&] {
-        const BufferText buffer(search_str_);
-        const StringView text = pi::elementText(buffer.view(), TagPair(xml_tag_));
-        const clsString str;
-        // A present element of blanks is not empty: it reads as 0, not as the default.
-        if (!text.empty() || default_value_.isMissing()) {
-            result = str.stringToNumber(text);
-        } else {
-            result = str.stringToNumber(toText(default_value_));
-        }
+        result = readWithDefault(search_str_, xml_tag_, default_value_,
+                                 [](StringView text, bool) { return clsString().stringToNumber(text); });
     });
     return result;
 }
@@ -227,14 +231,10 @@ Date clsBufferIO::ReadDateBetween(const Variant& search_str, const String& xml_t
                                   const Variant& default_value_) const {
     Date result;
     attempt([&] {
-        const BufferText buffer(search_str);
-        const StringView text = pi::elementText(buffer.view(), TagPair(xml_tag_));
-        const clsString str;
-        if (!text.empty() || default_value_.isMissing()) {
-            result = str.stringToDate(pi::decodeEntities(text));
-        } else {
-            result = str.stringToDate(toText(default_value_));
-        }
+        // Only the element's own text is decoded; the default is taken as it stands.
+        result = readWithDefault(search_str, xml_tag_, default_value_, [](StringView text, bool fromElement) {
+            return clsString().stringToDate(fromElement ? pi::decodeEntities(text) : String(text));
+        });
     });
     return result;
 }
