@@ -100,7 +100,10 @@ void Format_RunOfOneLetter(benchmark::State& state, char16_t letter) {
 }
 
 void Format_QuotedText(benchmark::State& state) {
-    formatRun(state, u"\"" + String(static_cast<std::size_t>(state.range(0)) - 2, u'x') + u"\"");
+    // Quotes set in place rather than u"\"" + ...: g++ 12 at -O3 takes that insert for an overlapping copy.
+    String format(static_cast<std::size_t>(state.range(0)), u'x');
+    format.front() = format.back() = u'"';
+    formatRun(state, format);
 }
 
 void readRejected(benchmark::State& state, const String& text, bool throughClsString) {
