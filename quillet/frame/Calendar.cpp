@@ -73,17 +73,6 @@ DaySecond daySecond(Date value) {
     return r;
 }
 
-std::int64_t dayIndex(Date value) noexcept {
-    if (!std::isfinite(value.serial) || std::fabs(value.serial) > 1e15) return 0;
-    return static_cast<std::int64_t>(std::trunc(value.serial));
-}
-
-int secondOfDay(Date value) noexcept {
-    if (!std::isfinite(value.serial) || std::fabs(value.serial) > 1e15) return 0;
-    const double fraction = std::fabs(value.serial - std::trunc(value.serial));
-    return static_cast<int>(std::floor(fraction * 86400.0 + 0.5));
-}
-
 std::int64_t totalSeconds(Date value) {
     const DaySecond ds = daySecond(value);
     return ds.day * 86400 + ds.second;

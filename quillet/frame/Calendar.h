@@ -15,6 +15,8 @@
 // reading of texts, not to this arithmetic.
 #pragma once
 
+#include <cmath>
+
 #include <cstdint>
 
 #include "quillet/frame/hostenums.h"
@@ -58,10 +60,18 @@ struct DaySecond {
 [[nodiscard]] DateParts split(DaySecond value) noexcept;
 // dayIndex - the calendar day of a serial, as days after 30 December 1899
 // (negative before it), without rounding the time.
-[[nodiscard]] std::int64_t dayIndex(Date value) noexcept;
+// Inline: every date written or read goes through these two.
+[[nodiscard]] inline std::int64_t dayIndex(Date value) noexcept {
+    if (!std::isfinite(value.serial) || std::fabs(value.serial) > 1e15) return 0;
+    return static_cast<std::int64_t>(std::trunc(value.serial));
+}
 // secondOfDay - the time of day rounded to the second, 0 .. 86400 (86400
 // when it rounds into the next day).
-[[nodiscard]] int secondOfDay(Date value) noexcept;
+[[nodiscard]] inline int secondOfDay(Date value) noexcept {
+    if (!std::isfinite(value.serial) || std::fabs(value.serial) > 1e15) return 0;
+    const double fraction = std::fabs(value.serial - std::trunc(value.serial));
+    return static_cast<int>(std::floor(fraction * 86400.0 + 0.5));
+}
 // totalSeconds - seconds since 30 December 1899 00:00, after rounding.
 [[nodiscard]] std::int64_t totalSeconds(Date value);
 

@@ -412,11 +412,12 @@ void render(String& out, const Tokens& tokens, const Moment& m, VbDayOfWeek firs
     const RenderContext context{RegionalSettings::current(),     m,        hour < 12,
                                 hour % 12 == 0 ? 12 : hour % 12, firstDay, firstWeek};
     for (const Token& t : tokens.items) {
-        // A repeated token writes the same text each time: written once, copied after.
         const std::size_t start = out.size();
         renderToken(out, tokens, t, context);
+        if (t.repeat == 1) continue;
+        // A repeated token writes the same text each time: written once, copied after.
         const std::size_t length = out.size() - start;
-        if (t.repeat > 1) out.reserve(out.size() + length * (t.repeat - 1));
+        out.reserve(out.size() + length * (t.repeat - 1));
         for (std::uint32_t r = 1; r < t.repeat; ++r) out.append(out, start, length);
     }
 }
