@@ -25,7 +25,6 @@ TEST(clsString, HeaderExamplesAndConstant) {
     EXPECT_EQ(s.booleanToString(True), u"True");
     EXPECT_EQ(s.booleanToString(Boolean::fromRaw(1)), u"False");
     EXPECT_EQ(s.booleanToString(False), u"False");
-    EXPECT_EQ(s.booleanToString(Boolean::fromRaw(-2)), u"False");
 }
 
 TEST(clsString, StringToNumberIsAlwaysADouble) {
