@@ -381,14 +381,6 @@ TEST(clsBufferIO, ItemReadersGiveWhatThePerItemScanGives) {
         EXPECT_EQ(itemsOf(io.ReadCollectionBetween(buffer, u"C")), r.collection);
         EXPECT_EQ(perItem(buffer, false), r.collection);
     }
-    // The older forms with bare numbers, and a negative subscript.
-    EXPECT_EQ(itemsOf(io.ReadCollectionBetween(
-                  Variant(u"<C><Collection><Count>2</Count></Collection><2>b</2><1>a</1></C>"), u"C")),
-              (Items{u"a", u"b"}));
-    EXPECT_EQ(itemsOf(io.ReadArrayBetween(
-                  Variant(u"<A><Array><LBound>-1</LBound><UBound>1</UBound><1>c</1><-1>a</-1></Array></A>"), u"A")),
-              (Items{u"a", u"", u"c"}));
-
     // Many generated buffers of the pieces the readers react to.
     const char16_t* pieces[] = {u"<Item1>", u"</Item1>", u"<Item2>", u"</Item2>", u"<Item3>", u"</Item3>",
                                 u"<1>",     u"</1>",     u"<2>",     u"</2>",     u"<-1>",    u"</-1>",
