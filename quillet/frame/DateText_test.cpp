@@ -92,7 +92,6 @@ TEST(DateText, FormatItemsUnderUsEnglish) {
         {"seven d", d, u"ddddddd", u"Friday, January 2, 20152"},
         {"seven y", d, u"yyyyyyy", u"2015152"},
         {"five m are a name and a month", d, u"mmmmm", u"January1"},
-        {"three h", d, u"hhh", u"1818"},
         {"mmm after h is no minute", d, u"hmmm", u"18Jan"},
         {"m after h and a name is the month", d, u"h:mmmmm", u"18:January1"},
         {"two colons between h and m", d, u"h::m", u"18::5"},
