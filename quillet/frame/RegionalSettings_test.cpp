@@ -13,17 +13,11 @@ namespace {
 TEST(RegionalSettings, EnUsFromIcuEqualsTheDefaultProfile) {
     const RegionalSettings icu = RegionalSettings::fromLocale("en_US");
     const RegionalSettings us = RegionalSettings::usEnglish();
-    EXPECT_EQ(icu.localeName, us.localeName);
-    EXPECT_EQ(icu.decimalSeparator, us.decimalSeparator);
-    EXPECT_EQ(icu.thousandSeparator, us.thousandSeparator);
-    EXPECT_EQ(icu.dateSeparator, us.dateSeparator);
-    EXPECT_EQ(icu.timeSeparator, us.timeSeparator);
-    EXPECT_EQ(icu.shortDatePattern, us.shortDatePattern);
-    EXPECT_EQ(icu.longDatePattern, us.longDatePattern);
-    EXPECT_EQ(icu.longTimePattern, us.longTimePattern);
-    EXPECT_EQ(icu.shortTimePattern, us.shortTimePattern);
-    EXPECT_EQ(icu.amMark, us.amMark);
-    EXPECT_EQ(icu.pmMark, us.pmMark);
+    using R = RegionalSettings;
+    for (String R::*text :
+         {&R::localeName, &R::decimalSeparator, &R::thousandSeparator, &R::dateSeparator, &R::timeSeparator,
+          &R::shortDatePattern, &R::longDatePattern, &R::longTimePattern, &R::shortTimePattern, &R::amMark, &R::pmMark})
+        EXPECT_EQ(toUtf8(icu.*text), toUtf8(us.*text));
     EXPECT_EQ(icu.monthNames, us.monthNames);
     EXPECT_EQ(icu.monthAbbreviations, us.monthAbbreviations);
     EXPECT_EQ(icu.dayNames, us.dayNames);
