@@ -76,8 +76,6 @@ TEST(Variant, ConversionsFollowTheHostLanguage) {
     EXPECT_EQ(toText(Variant()), u"");
     EXPECT_EQ(toText(Variant(True)), u"True");
     EXPECT_EQ(toText(Variant(Boolean::fromRaw(1))), u"True");
-    EXPECT_EQ(toText(Variant(Integer{-3})), u"-3");
-    EXPECT_EQ(toText(Variant(0.1f)), u"0.1");  // 7 digits for a Single
     EXPECT_FAILURE((void)toText(Variant::null()), errInvalidNull);
     EXPECT_FAILURE((void)toText(Variant(std::make_shared<Thing>())), errTypeMismatch);
     EXPECT_FAILURE((void)toText(Variant(Array<Long>())), errTypeMismatch);
