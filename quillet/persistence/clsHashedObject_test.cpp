@@ -9,10 +9,8 @@ namespace {
 
 TEST(clsHashedObject, KeepsTheSameReference) {
     auto entry = std::make_shared<clsHashedObject>();
-    EXPECT_EQ(entry->getHashKey(), u"");
     EXPECT_TRUE(entry->getObject().isNothing());
     auto point = std::make_shared<clsPoint>();
-    entry->setHashKey(u"origin");
     entry->setObject(point);
     EXPECT_EQ(entry->getObject().object<clsPoint>(), point);
     entry->setObject(5);  // no object reference

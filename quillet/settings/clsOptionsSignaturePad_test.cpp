@@ -11,14 +11,7 @@ namespace {
 std::shared_ptr<clsOptionsSignaturePad> changed() {
     auto p = std::make_shared<clsOptionsSignaturePad>();
     p->setForeColor(255);
-    p->setBackColor(65280);
     p->setLineThickness(7);
-    p->setImageSize(SIGNATURE_PAD_IMAGE_SIZE_LARGE);
-    p->setImageQuality(SIGNATURE_PAD_IMAGE_QUALITY_MEDIUM);
-    p->setButtonOption(SIGNATURE_PAD_BT_NONE);
-    p->SetShowNdaOnPad(True);
-    p->SetDisplayStandbyMessage(True);
-    p->SetStandbyMessage(u"Please <sign> & wait");
     p->SetLinesPerRefresh(40);
     return p;
 }
